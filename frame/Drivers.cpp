@@ -1,0 +1,53 @@
+// Which driver plays the match of each game.
+#include "frame/Ciclo.h"
+
+#include "frame/TrufalGbl.h"
+#include "table/Dibujo.h"
+
+void JuegaPartida() {
+    switch (JuegoActual) {
+    // Each game's own driver takes its place here as it comes to the table.
+    default:
+        JuegaProvisional();
+        break;
+    }
+}
+
+namespace {
+
+// The seat the person plays, or the leader when every seat is the computer's.
+int SeatDeLaPersona() {
+    for (int s = 4; s >= 1; --s)
+        if (ControlJugador[s] == CONTROL_MANUAL && EstadoJugador[s] == ESTADO_ACTIVADO) return s;
+    return JugadorMano;
+}
+
+bool EsJuegoDeApuestas() {
+    return JuegoActual == JUEGO_POKER || JuegoActual == JUEGO_BLACKJACK ||
+           JuegoActual == JUEGO_SIETEYMEDIA;
+}
+
+} // namespace
+
+// A game whose rules haven't come to the table yet: each hand is dealt through the frame and
+// shown, and the table waits for "Continuar" before the next one. The match goes on until it
+// is abandoned or postponed.
+void JuegaProvisional() {
+    while (PartidaViva) {
+        if (EsJuegoDeApuestas())
+            EmpiezaManoApuestas();
+        else
+            NuevaMano();
+        if (!PartidaViva) return;
+        RegistroManos[NumeroMano].Sale =
+            NombreJugador[JuegoActual == JUEGO_BLACKJACK || JuegoActual == JUEGO_SIETEYMEDIA
+                              ? JugadorBanca
+                              : JugadorMano];
+        FaseJuego = 4;
+        JugadorActual = SeatDeLaPersona();
+        EsperaJugada();
+        if (!PartidaViva) return;
+        ManoViva = false;
+        FaseJuego = 9;
+    }
+}

@@ -1,0 +1,6 @@
+// The help viewer: opens a topic of the program's help by its number.
+#pragma once
+
+void AbreAyuda(int tema);
+// The same, for a moment when the program can't go on: the call returns when the viewer closes.
+void AbreAyudaYEspera(int tema);

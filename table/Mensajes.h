@@ -1,0 +1,26 @@
+// The message box `mensajes`: every question and notice of the program.
+#pragma once
+
+#include <QString>
+#include <deque>
+
+// Shows the box and returns when it closes. The answer is in RespuestaMensaje: True for the one
+// button or for yes, False for no. Lines are the lines of text the caller expects; buttons 1 one
+// button, 2 yes and no; help the topic of the help button, 0 for none.
+void Mensaje(const QString& titulo, const QString& texto, int lineas, int botones, int ayuda = 0);
+
+// Geometry of the box for its lines, on the reference it centres on.
+struct GeometriaMensaje {
+    int X, Y, Ancho, Alto;
+};
+GeometriaMensaje CalculaMensaje(int lineas);
+
+// Headless play: while this queue holds answers, Mensaje takes the next one without showing a
+// window, and notes what it was asked. A test or a scripted run fills it.
+struct MensajeVisto {
+    QString Titulo, Texto;
+    int Lineas = 0, Botones = 0, Ayuda = 0;
+};
+inline bool MensajesGuionados = false;          // answer from the queue, never show a window
+inline std::deque<bool> RespuestasGuionadas;    // answers to the next questions; empty: yes
+inline std::deque<MensajeVisto> MensajesVistos; // what was asked, oldest first

@@ -1,0 +1,244 @@
+// Action buttons: a skin stretched to the button's size with its caption, placed beside the
+// seat it belongs to, lying along the seat's edge for the seats at the sides.
+#include "table/Pulsadores.h"
+
+#include "frame/Baraja.h"
+#include "frame/Ciclo.h"
+#include "frame/TrufalGbl.h"
+#include "platform/Sonido.h"
+#include "table/Dibujo.h"
+#include "table/Popup.h"
+
+#include <QFile>
+#include <QPainter>
+
+namespace {
+
+constexpr int ANCHO_NORMAL = 80, ALTO_PULSADOR = 23, ANCHO_LARGO = 148;
+
+int AnchoDe(int indice) {
+    if (indice == 87) return ANCHO_LARGO;
+    if (indice == 83 || indice == 84) return 30;
+    if (indice == 102) return 110;
+    return ANCHO_NORMAL;
+}
+
+bool PorSeries() {
+    return JuegoActual == JUEGO_BLACKJACK || JuegoActual == JUEGO_SIETEYMEDIA;
+}
+
+bool HayCartaElegida(int seat) {
+    for (int p = 1; p <= NumCartas[seat][1]; ++p)
+        if (CartasJugador[seat][1][p][CAMPO_ESTADO] == 1) return true;
+    return false;
+}
+
+void SkinPorDefecto(QImage& imagen, bool pulsado) {
+    QPainter p(&imagen);
+    p.setRenderHint(QPainter::Antialiasing);
+    QLinearGradient g(0, 0, 0, imagen.height());
+    g.setColorAt(0, pulsado ? QColor(150, 110, 40) : QColor(250, 225, 150));
+    g.setColorAt(1, pulsado ? QColor(220, 180, 90) : QColor(190, 140, 50));
+    p.setBrush(g);
+    p.setPen(QPen(QColor(70, 40, 10), 1));
+    p.drawRoundedRect(QRectF(0.5, 0.5, imagen.width() - 1, imagen.height() - 1), 5, 5);
+}
+
+// The skin of the sheet: left end, a middle column repeated, right end.
+bool SkinDeLamina(QImage& imagen, bool pulsado) {
+    if (Pic_BmpContr.Imagen.isNull() && QFile::exists(":/assets/Contr.png"))
+        Pic_BmpContr.Imagen = CargaImagen(":/assets/Contr.png");
+    const QImage& hoja = Pic_BmpContr.Imagen;
+    if (hoja.isNull()) return false;
+    const int fila = pulsado && hoja.height() >= 2 * ALTO_PULSADOR ? ALTO_PULSADOR : 0;
+    const int extremo = 8;
+    const int w = imagen.width();
+    QPainter p(&imagen);
+    p.drawImage(QRect(0, 0, extremo, ALTO_PULSADOR), hoja, QRect(0, fila, extremo, ALTO_PULSADOR));
+    p.drawImage(QRect(extremo, 0, w - 2 * extremo, ALTO_PULSADOR), hoja,
+                QRect(extremo, fila, 1, ALTO_PULSADOR));
+    p.drawImage(QRect(w - extremo, 0, extremo, ALTO_PULSADOR), hoja,
+                QRect(hoja.width() - extremo, fila, extremo, ALTO_PULSADOR));
+    return true;
+}
+
+} // namespace
+
+void IniciaEtiquetas() {
+    EtiquetaControl[81] = "Carta";
+    EtiquetaControl[82] = "Servido";
+    EtiquetaControl[83] = "◀";
+    EtiquetaControl[84] = "▶";
+    EtiquetaControl[85] = "Doblar";
+    EtiquetaControl[86] = "Seguro";
+    EtiquetaControl[87] = "Resto de cartas al azar";
+    EtiquetaControl[88] = "Descarto";
+    EtiquetaControl[95] = "Pumba";
+    EtiquetaControl[96] = "Cerrar";
+    EtiquetaControl[97] = "Seguir";
+    EtiquetaControl[98] = "Mus";
+    EtiquetaControl[99] = "No mus";
+    EtiquetaControl[100] = "Si hay";
+    EtiquetaControl[101] = "No hay";
+    EtiquetaControl[102] = FaseJuego == 5 ? "Mando envidar" : "Mando cortar";
+}
+
+void DecidePulsadores(int seat, bool quiere[103]) {
+    for (int i = 0; i <= 102; ++i) quiere[i] = false;
+    const bool manual = ControlJugador[seat] == CONTROL_MANUAL;
+    if (!manual || seat != JugadorActual) return;
+    if (PorSeries()) {
+        const bool ultima = SerieActual == NumSeries;
+        const bool banca = seat == JugadorBanca && JugadoresMano >= 2;
+        if (FaseJuego == 4 && ultima && !SerieCerrada[seat][SerieActual] && !banca) {
+            quiere[81] = quiere[82] = true;
+            const auto& primera = CartasJugador[seat][SerieActual][1];
+            if (SerieActual > 1 && primera[CAMPO_VALOR] == 1 && PuedeAbrir) quiere[81] = false;
+        }
+        if (SeriesJugador[seat] >= 2) {
+            quiere[83] = SerieActual > 1;
+            quiere[84] = SerieActual < SeriesJugador[seat];
+        }
+        if (JuegoActual == JUEGO_BLACKJACK && ultima) {
+            quiere[85] = PuedeDoblar;
+            quiere[86] = PuedeAsegurar;
+            if (quiere[85] || quiere[86]) quiere[83] = quiere[84] = false;
+        }
+    }
+    const bool eligiendo = EsperandoPersona && FaseJuego == 4 && !TutorEnCurso;
+    if (JuegoActual == JUEGO_POKER && eligiendo) {
+        quiere[82] = !HayCartaElegida(seat);
+        quiere[88] = HayCartaElegida(seat);
+    }
+    if (JuegoActual == JUEGO_MUS && eligiendo) quiere[88] = HayCartaElegida(seat);
+    if (JuegoActual == JUEGO_CHINCHON && FaseJuego == 3 && ManoViva && PuedeCerrar)
+        quiere[96] = quiere[97] = true;
+    if (JuegoActual == JUEGO_MUS && FaseJuego == 1 && ManoViva) quiere[98] = quiere[99] = true;
+    if (!FraseJugador[seat][SerieActual].isEmpty()) quiere[85] = quiere[86] = quiere[102] = false;
+}
+
+void DibujaPulsador(int indice, bool tumbado, bool pulsado) {
+    const int ancho = AnchoDe(indice);
+    QImage imagen(ancho, ALTO_PULSADOR, QImage::Format_RGB32);
+    imagen.fill(QColor::fromRgb(COLOR_MESA));
+    if (!SkinDeLamina(imagen, pulsado)) SkinPorDefecto(imagen, pulsado);
+    {
+        QPainter p(&imagen);
+        QFont letra("DejaVu Sans");
+        letra.setPixelSize(11);
+        letra.setBold(true);
+        p.setFont(letra);
+        p.setPen(QColor(40, 20, 0));
+        p.drawText(imagen.rect().translated(0, pulsado ? 1 : 0), Qt::AlignCenter,
+                   EtiquetaControl[indice]);
+    }
+    if (tumbado) imagen = GiraCuarto(GiraCuarto(GiraCuarto(imagen)));
+    Pic_Pulsador[indice].Imagen = imagen;
+}
+
+void ColocaPulsador(int seat, int indice) {
+    const bool tumbado = seat == 1 || seat == 3;
+    DibujaPulsador(indice, tumbado);
+    CajaImagen& b = Pic_Pulsador[indice];
+    // Buttons of a seat stand in a row beside its cards, one after the other by index.
+    int orden = 0;
+    for (int i = 81; i < indice; ++i)
+        if (Pic_Pulsador[i].Visible && Pic_Pulsador[i].Texto == QString::number(seat)) ++orden;
+    const int paso = (tumbado ? b.Alto() : b.Ancho()) + 4;
+    switch (seat) {
+    case 1:
+        b.X = ZonaDerecha[1] + 4;
+        b.Y = ZonaArriba[1] + orden * paso;
+        break;
+    case 2:
+        b.X = ZonaIzquierda[2] + orden * paso;
+        b.Y = ZonaAbajo[2] + 4;
+        break;
+    case 3:
+        b.X = ZonaIzquierda[3] - b.Ancho() - 4;
+        b.Y = ZonaArriba[3] + orden * paso;
+        break;
+    default:
+        b.X = ZonaIzquierda[4] + orden * paso;
+        b.Y = ZonaArriba[4] - b.Alto() - 4;
+        break;
+    }
+    b.Texto = QString::number(seat);
+    b.Visible = true;
+}
+
+int PulsadorBajo(int x, int y) {
+    for (int i = 102; i >= 81; --i) {
+        const CajaImagen& b = Pic_Pulsador[i];
+        if (b.Visible && x >= b.X && y >= b.Y && x < b.X + b.Ancho() && y < b.Y + b.Alto())
+            return i;
+    }
+    return 0;
+}
+
+void PulsaPulsador(int indice) {
+    OcultaPopup();
+    Sonido(SONIDO_ASINCRONO, 9);
+    const bool tumbado = Pic_Pulsador[indice].Alto() > Pic_Pulsador[indice].Ancho();
+    DibujaPulsador(indice, tumbado, true);
+    RefrescaMesa();
+    auto termina = [](bool& bandera) {
+        bandera = true;
+        EsperandoPersona = false;
+    };
+    switch (indice) {
+    case 81:
+        termina(PideCarta);
+        break;
+    case 82:
+        termina(PideServido);
+        break;
+    case 83:
+    case 84:
+        if (indice == 83 ? SerieActual > 1 : SerieActual < SeriesJugador[JugadorActual]) {
+            SerieActual += indice == 83 ? -1 : 1;
+            FraseJugador[JugadorActual][SerieActual] = QStringLiteral("Serie %1").arg(SerieActual);
+            ColorFrase[JugadorActual][SerieActual] = 0xFFFF00;
+            DibujaJugador(JugadorActual);
+            if (JuegoActual == JUEGO_SIETEYMEDIA && SerieActual == NumSeries)
+                DibujaPilas(JugadorActual);
+        }
+        break;
+    case 85:
+        termina(PideDoblar);
+        break;
+    case 86:
+        termina(PideSeguro);
+        break;
+    case 87:
+        ReparteRestantesAlAzar();
+        break;
+    case 88:
+        EsperandoPersona = false;
+        break;
+    case 96:
+        termina(PulsoCerrar);
+        break;
+    case 97:
+        termina(PulsoSeguir);
+        break;
+    case 98:
+        termina(PulsoMus);
+        break;
+    case 99:
+        termina(PulsoCorte);
+        break;
+    case 100:
+        termina(PulsoSi);
+        break;
+    case 101:
+        termina(PulsoNo);
+        break;
+    default:
+        break;
+    }
+    if (Pic_Pulsador[indice].Visible) {
+        DibujaPulsador(indice, tumbado, false);
+        RefrescaMesa();
+    }
+}

@@ -1,0 +1,14 @@
+// Tests run headless: a QApplication on the offscreen platform, message boxes answered from a
+// script, and the person played by the test.
+#include <QApplication>
+#include <gtest/gtest.h>
+
+#include "table/Mensajes.h"
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    MensajesGuionados = true;
+    ::testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,17 @@
+// A table for headless tests: a laid-out table with no window, files in a temporary folder,
+// pauses at the top speed, messages answered from a script and the person played by the test.
+#pragma once
+
+#include <QString>
+#include <QTemporaryDir>
+#include <functional>
+
+struct MesaDePrueba {
+    QTemporaryDir Carpeta;
+    MesaDePrueba(int ancho = 1024, int alto = 768);
+    ~MesaDePrueba();
+    QString Ruta(const QString& nombre) const { return Carpeta.path() + "/" + nombre; }
+};
+
+// Puts every seat and rule setting to its factory value, and clears a match.
+void ReiniciaEstado();
