@@ -128,10 +128,11 @@ void Main() {
     CargaMesa();
     PreparaMesa();
     PreparaBotonera();
-    LeeConfiguracion();
+    // The table is up before the settings are read, so that a message about them stands on it.
     CierraCareta();
     MuestraMesa();
     RefrescaMesa();
+    LeeConfiguracion();
     Mensaje("TRUFAL 3.2",
             "Si desea consultar una descripción general de este  programa  para  conocer  "
             "rápidamente su funcionamiento, pulse el botón de Ayuda.",

@@ -391,11 +391,17 @@ void PreparaPosponer() {
     if (!PartidaViva) return;
     if (JuegoActual == JUEGO_POKER || JuegoActual == JUEGO_BLACKJACK ||
         JuegoActual == JUEGO_SIETEYMEDIA) {
+        int bote = 0;
         for (int s = 1; s <= 4; ++s) {
             RecomponeFichas(s, RestoAlEmpezar[s]);
             for (int e = 0; e <= 4; ++e)
-                for (int f = 0; f <= 5; ++f) Apuesta[s][e][f] = ApuestaCopia[s][e][f];
+                for (int f = 0; f <= 5; ++f) {
+                    Apuesta[s][e][f] = ApuestaCopia[s][e][f];
+                    bote += ApuestaCopia[s][e][f];
+                }
         }
+        // The pot holds again only what the stakes kept from an earlier deal put there.
+        RecomponeFichas(0, ApuestaDelante ? 0 : bote);
     }
     if (JuegoActual == JUEGO_MUS && FaseJuego < 9) {
         bool hayCopia = false;
@@ -453,6 +459,8 @@ void BorraCartasMano() {
 
 void EmpiezaManoApuestas() {
     FaseJuego = 1;
+    MazoX = MazoBaseX;
+    MazoY = MazoBaseY;
     if (NumeroMano < MAX_MANOS) ++NumeroMano;
     for (;;) {
         Pic_Apostadora.Visible = false;

@@ -2,12 +2,14 @@
 
 #include "frame/TrufalGbl.h"
 
+#include <QApplication>
 #include <QDialog>
+#include <QPointer>
+#include <QPushButton>
 #include <QDir>
 #include <QFile>
 #include <QTextBrowser>
 #include <QVBoxLayout>
-#include <memory>
 
 namespace {
 
@@ -19,8 +21,10 @@ QString CarpetaAyuda() {
     return candidatas.front();
 }
 
-std::unique_ptr<QDialog> Visor;
-QTextBrowser* Navegador = nullptr;
+// The viewer belongs to the modal window open when it was asked for, if any, so that it takes
+// the mouse while that window waits; it goes when that window goes.
+QPointer<QDialog> Visor;
+QPointer<QTextBrowser> Navegador;
 
 } // namespace
 
@@ -29,14 +33,20 @@ void AbreAyuda(int tema) {
     QString pagina = carpeta + QString::number(tema) + ".html";
     // An unknown topic opens the index, never an error.
     if (!QFile::exists(pagina)) pagina = carpeta + "index.html";
+    QWidget* modal = QApplication::activeModalWidget();
+    if (Visor && Visor != modal && Visor->parentWidget() != modal) delete Visor;
     if (!Visor) {
-        Visor = std::make_unique<QDialog>();
+        Visor = new QDialog(modal, Qt::Window);
+        Visor->setAttribute(Qt::WA_DeleteOnClose);
         Visor->setWindowTitle("Ayuda de Trufal");
         Visor->resize(720, 560);
-        auto* capa = new QVBoxLayout(Visor.get());
-        Navegador = new QTextBrowser(Visor.get());
+        auto* capa = new QVBoxLayout(Visor);
+        Navegador = new QTextBrowser(Visor);
         Navegador->setOpenLinks(true);
         capa->addWidget(Navegador);
+        auto* cerrar = new QPushButton("Cerrar", Visor);
+        QObject::connect(cerrar, &QPushButton::clicked, Visor.data(), &QDialog::close);
+        capa->addWidget(cerrar, 0, Qt::AlignRight);
     }
     Navegador->setSearchPaths({carpeta});
     if (QFile::exists(pagina))

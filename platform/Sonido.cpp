@@ -15,13 +15,16 @@ std::unique_ptr<QSoundEffect> Efecto;
 
 void Sonido(int modo, int id) {
     if (!SonidoActivado) return;
-    const QString recurso = QStringLiteral(":/sonidos/%1.wav").arg(id, 2, 10, QChar('0'));
+    const QString recurso = QStringLiteral(":/assets/sonidos/%1.wav").arg(id, 2, 10, QChar('0'));
     if (!QFile::exists(recurso)) return;
     if (!Efecto) Efecto = std::make_unique<QSoundEffect>();
     Efecto->stop(); // a new sound cuts the one playing
     Efecto->setSource(QUrl(QStringLiteral("qrc") + recurso));
     Efecto->play();
     if (modo == SONIDO_SINCRONO) {
-        while (Efecto->isPlaying() || Efecto->status() == QSoundEffect::Loading) EsperaEventos();
+        // Without an audio device the effect fails at once and the wait ends with it.
+        while (Efecto->status() != QSoundEffect::Error &&
+               (Efecto->isPlaying() || Efecto->status() == QSoundEffect::Loading))
+            EsperaEventos();
     }
 }

@@ -11,6 +11,7 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QPixmap>
 #include <QScreen>
 #include <QToolTip>
 #include <memory>
@@ -116,12 +117,11 @@ void CargaMesa() {
 
 void MuestraMesa() {
     CargaMesa();
+    // The table covers the screen, as it was drawn for it; a window manager may then keep
+    // its own borders, and the picture is scaled into what is left.
     const QScreen* pantalla = QGuiApplication::primaryScreen();
-    const QRect disponible = pantalla ? pantalla->availableGeometry() : QRect(0, 0, 1024, 768);
-    if (disponible.width() >= AnchoVentana && disponible.height() >= AltoVentana)
-        LaMesa->showMaximized();
-    else
-        LaMesa->show();
+    if (pantalla) LaMesa->setGeometry(pantalla->availableGeometry());
+    LaMesa->showMaximized();
     LaMesa->raise();
     LaMesa->activateWindow();
 }
@@ -134,19 +134,36 @@ void RefrescaMesa() {
     if (LaMesa && LaMesa->isVisible()) LaMesa->repaint();
 }
 
+namespace {
+
+// The program's own pointers, with the point that acts.
+QCursor CursorPropio(int forma) {
+    struct Punta {
+        int Forma, X, Y;
+    };
+    static const Punta puntas[] = {{21, 11, 1},  {22, 11, 1},  {23, 11, 1},  {24, 11, 1},
+                                   {25, 16, 16}, {26, 16, 14}, {27, 16, 14}, {41, 16, 16},
+                                   {42, 16, 16}, {43, 16, 16}};
+    for (const Punta& p : puntas) {
+        if (p.Forma != forma) continue;
+        const QPixmap imagen(QStringLiteral(":/assets/cursores/%1.png").arg(forma));
+        if (!imagen.isNull()) return QCursor(imagen, p.X, p.Y);
+    }
+    return QCursor(Qt::ArrowCursor);
+}
+
+} // namespace
+
 void PonCursor(int forma) {
     CursorActual = forma;
     if (!LaMesa) return;
+    // Below 20 the standard pointers of the desktop; 12 is "no drop".
     if (forma == 12)
         LaMesa->setCursor(Qt::ForbiddenCursor);
     else if (forma == 11)
         LaMesa->setCursor(Qt::WaitCursor);
-    else if (forma == 21)
-        LaMesa->setCursor(Qt::PointingHandCursor);
-    else if (forma == 26)
-        LaMesa->setCursor(Qt::ClosedHandCursor);
-    else if (forma == 27)
-        LaMesa->setCursor(Qt::OpenHandCursor);
+    else if (forma > 20)
+        LaMesa->setCursor(CursorPropio(forma));
     else
         LaMesa->setCursor(Qt::ArrowCursor);
 }
