@@ -29,6 +29,7 @@ double CuatroDecimales(double x) {
 // One turn of the event pump of a wait: the person's script in headless play, else block
 // until the window has something to deliver.
 void BombaDeEspera() {
+    SolicitaRepintado();
     if (PersonaGuionada)
         PersonaGuionada();
     else
@@ -296,6 +297,7 @@ void EligeMano() {
     RefrescaMesa();
     EligiendoMano = true;
     while (EligiendoMano) BombaDeEspera();
+    if (!PartidaViva || JugadorBajoPuntero == 0) return; // the match was left meanwhile
     JugadorMano = JugadorBajoPuntero;
     if (JuegoActual == JUEGO_BLACKJACK || JuegoActual == JUEGO_SIETEYMEDIA) {
         JugadorBanca = JugadorMano;

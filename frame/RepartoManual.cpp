@@ -157,6 +157,7 @@ void ReparteManual() {
     const int tamano = CartasBaraja;
     // Paso 7. The person lays out the cards; the mouse handlers do the work.
     while (CartasQueFaltan() > 0) {
+        SolicitaRepintado();
         if (PersonaGuionada)
             PersonaGuionada();
         else

@@ -30,6 +30,8 @@ void BorraVentana();  // the whole table in its colour, the bar left as it is
 // One card: face 1 its back, 2 its face; partial 1 the half-covered card.
 void DibujaCarta(QImage& destino, int x, int y, int orientacion, int palo, int valor, int cara,
                  int parcial = 0);
+// A stock of count cards, a back for every 4 cards of each deck, leaning up and to the right; with
+// Tute's trump lying under it, and Chinchón's pile ending with its top card face up.
 void DibujaMazo(int x, int y, int cuenta);
 void PosicionCarta(int seat, int posicion, int total);
 void DibujaJugador(int seat);
@@ -54,6 +56,8 @@ void RotuloMesa(const QString& texto);
 // the first blank from the middle character on.
 QStringList LineasRotulo(const QString& texto);
 int RotuloMesaY();  // top of the banner: lower, below the stock, where the stock is in the middle
+// Blinks the icon of the hand's winner (and its partner's in pairs); the caller has played
+// sound 14.
 void SenalaGanador(int seat);
 void MarcaPaso(int seat);
 void OcultaTantos();
@@ -70,3 +74,6 @@ inline std::function<void(int x, int y)> PasoVueloVisto;
 // Shows what has been drawn, at once (the old Refresh): the window repaints before returning,
 // so a flight made of pauses that pump nothing is seen step by step.
 void RefrescaMesa();
+// Asks the window to show the table at its next turn of the event pump; the waits call it
+// before they block, so whatever was drawn without a pause is seen.
+void SolicitaRepintado();

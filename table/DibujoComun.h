@@ -18,9 +18,13 @@ void SuenaMesa(int modo, int id);
 // The block of a seat's chip piles (zones 0 to 4), of its stake (11 to 14) or of its frame of
 // stones (21 to 24), as BorraPila wipes it.
 QRect BloquePila(int zona);
+// What BorraPila wipes of a block: the block and the lean of its stacks.
+QRect AreaBorrado(int zona);
 // Where the money figure of a seat (0 the pot) and the figure of its stake are written.
 QRect CajaCifraResto(int seat);
 QRect CajaCifraApuesta(int seat);
+// Where the name of a seat is written.
+QRect CajaNombre(int seat);
 
 // Orientation in which a seat sees its cards and chips; seat 0 and the stakes' slots as their
 // seats do.

@@ -14,7 +14,6 @@ namespace {
 constexpr int LADO_FICHA = 33;
 constexpr int DENOMINACION_PIEDRA = 7;
 constexpr int MAX_DESPLAZA = 5;       // a stack leans at most this far
-constexpr int MARGEN_PILA = 6;        // what a wipe takes around a block, for that lean
 constexpr int CAJA_MONTON = 44 * 108; // the stones of the heap lie in a box of 44 by 108
 constexpr int LADO_MARCA = 32;
 constexpr unsigned COLOR_CIFRA = 0xF0F080; // the figures of money, a light yellow
@@ -79,12 +78,8 @@ void BorraPila(int zona) {
         BorraZona(cifra.x(), cifra.y(), cifra.width() + 1, cifra.height() + 1);
         return;
     }
-    QRect bloque = BloquePila(zona);
-    if (bloque.isNull()) return;
-    // A stack leans out of its pile by up to 5 pixels, and a block is drawn a pixel off its
-    // corner on the right side: wipe that margin too.
-    if (zona <= 4) bloque.adjust(-MARGEN_PILA, -MARGEN_PILA, MARGEN_PILA, MARGEN_PILA);
-    BorraZona(bloque.x(), bloque.y(), bloque.width(), bloque.height());
+    const QRect area = AreaBorrado(zona);
+    if (!area.isNull()) BorraZona(area.x(), area.y(), area.width(), area.height());
 }
 
 void DibujaPilas(int seat) {

@@ -86,10 +86,11 @@ void ColocaPilas() {
         PilaX[0][p] = Redondea(CentroMesaX - 39.0 + columna);
         PilaY[0][p] = Redondea(CentroMesaY - 79.5 + fila);
     }
-    // Each seat's block stands in a corner of the table beside its zone, clear of the cards:
-    // the person's on the right of its hand, leaving the left for the betting panel.
-    const int bloqueX[5] = {0, 0, ZonaIzquierda[2] - 86, AnchoMesa - 140, ZonaDerecha[4] + 10};
-    const int bloqueY[5] = {0, ZonaArriba[1] - 86, 0, ZonaAbajo[3] + 10, AltoVentana - 140};
+    // Each seat's block stands in the corner at its right hand, clear of its cards: the person's
+    // right of its fan, leaving the left for the betting panel; seat 2's close to its cards, so
+    // that on the narrowest table it still clears the trump lying in the top left corner.
+    const int bloqueX[5] = {0, 0, ZonaIzquierda[2] - 77, AnchoMesa - 140, ZonaDerecha[4] + 10};
+    const int bloqueY[5] = {0, ZonaAbajo[1] + 10, 0, ZonaArriba[3] - 86, AltoVentana - 140};
     for (int s = 1; s <= 4; ++s) ColocaBloque(s, bloqueX[s], bloqueY[s], OrientacionSeat[s]);
 
     // The stake lies between the seat's cards and the middle, to the seat's right hand.
@@ -305,17 +306,34 @@ QRect BloquePila(int zona) {
     return QRect();
 }
 
+QRect AreaBorrado(int zona) {
+    QRect area = BloquePila(zona);
+    // The stacks lean left and, for seats 1 and 2, up, else down, by up to 5 pixels; seat 3's
+    // piles sit a pixel lower in their block than the others.
+    switch (zona) {
+    case 0:
+    case 4:
+        return area.adjusted(-5, 0, 0, 0);
+    case 1:
+        return area.adjusted(0, -5, 0, 0);
+    case 3:
+        return area.adjusted(0, 0, 0, 6);
+    default:
+        return area;
+    }
+}
+
 QRect CajaCifraResto(int seat) {
     const QRect b = BloquePila(seat);
     switch (seat) {
     case 0:
         return QRect(b.x(), PilaY[0][1] + 40, 76, 16);
     case 1:
-        return QRect(b.x(), b.y() - 22, 140, 16);
+        return QRect(b.x(), b.bottom() + 3, 140, 16);
     case 2:
         return QRect(b.x(), b.y() + 4, 76, 16);
     case 3:
-        return QRect(b.x(), b.bottom() + 7, 140, 16);
+        return QRect(b.x(), b.y() - 20, 140, 16);
     default:
         return QRect(b.x(), b.y() + 120, 76, 16);
     }

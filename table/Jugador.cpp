@@ -28,8 +28,8 @@ void MuestraQueridos(int seat, const bool quiere[103]) {
         if (PulsadorDelTurno(i) && quiere[i]) ColocaPulsador(seat, i);
 }
 
-// The stake lies in front of the seat where it stays there, except for the bank, during a
-// manual deal, or while the seat's first card is raised over that place.
+// Where stakes stay in front of the seats, a seat's stake shows: not the bank's, not during a
+// manual deal, and not while the seat's first card is raised over that place.
 bool ApuestaALaVista(int seat) {
     return ApuestaDelante && seat != JugadorBanca && !AnularReparto &&
            CartasJugador[seat][SerieActual][1][CAMPO_ESTADO] != 1;

@@ -154,6 +154,10 @@ QCursor CursorPropio(int forma) {
 
 } // namespace
 
+void SolicitaRepintado() {
+    if (LaMesa && LaMesa->isVisible()) LaMesa->update();
+}
+
 void PonCursor(int forma) {
     CursorActual = forma;
     if (!LaMesa) return;

@@ -72,7 +72,7 @@ void DibujaMiniaturaEnMover() {
         const QRect celda(i * 28, 0, 27, AltoMiniatura);
         p.fillRect(celda, QColor(0xC0, 0xC0, 0xC0));
         if (EsIdComodin(ids[i]))
-            p.drawImage(QRect(i * 28 + 3, 9, 21, 20), Pic_Comodin[1].Imagen, QRect(0, 0, 21, 20));
+            p.drawImage(QRect(i * 28 + 3, 9, 21, 20), Pic_Comodin[1].Imagen, QRect(4, 4, 21, 20));
         else if (!Pic_Baraja[1].Imagen.isNull())
             p.drawImage(QRect(i * 28 + 7, 2, 13, AltoMiniatura - 4), Pic_Baraja[1].Imagen,
                         QRect((ValorDeId - 1) * ANCHO_CARTA + 4, (PaloDeId - 1) * ALTO_CARTA + 4,

@@ -18,21 +18,6 @@ constexpr int LADO_ICONO = 32;
 constexpr unsigned COLOR_SOMBRA = 0x004000;
 constexpr unsigned VERDE_CLARO = 0x00C000, VERDE_OSCURO = 0x008000;
 
-// Names lie in the corners beside each zone: the rows under the person's fan on its left and
-// above seat 2's on its right, the columns under seat 1 and above seat 3.
-QRect CajaNombre(int seat) {
-    switch (seat) {
-    case 1:
-        return QRect(3, ZonaAbajo[1] + 8, 13, LARGO_NOMBRE);
-    case 2:
-        return QRect(ZonaDerecha[2] + 10, 2, LARGO_NOMBRE, 17);
-    case 3:
-        return QRect(AnchoMesa - 16, ZonaArriba[3] - 8 - LARGO_NOMBRE, 13, LARGO_NOMBRE);
-    default:
-        return QRect(ZonaIzquierda[4] - 10 - LARGO_NOMBRE, AltoVentana - 20, LARGO_NOMBRE, 17);
-    }
-}
-
 bool SeatEnJuego(int seat) {
     if (EstadoJugador[seat] != ESTADO_ACTIVADO) return false;
     if (JuegoActual == JUEGO_CHINCHON || JuegoActual == JUEGO_PUMBA) return JuegaMano[seat];
@@ -111,6 +96,21 @@ void PintaTantos(int seat, int numero, bool enmarcado) {
 }
 
 } // namespace
+
+// Names lie in the corner at each seat's left hand: the person's row left of its fan, seat 2's
+// right of its own, seat 1's column above its cards by the table's edge, seat 3's below them.
+QRect CajaNombre(int seat) {
+    switch (seat) {
+    case 1:
+        return QRect(1, ZonaArriba[1] - 8 - LARGO_NOMBRE, 10, LARGO_NOMBRE);
+    case 2:
+        return QRect(ZonaDerecha[2] + 10, 2, LARGO_NOMBRE, 17);
+    case 3:
+        return QRect(AnchoMesa - 11, ZonaAbajo[3] + 8, 10, LARGO_NOMBRE);
+    default:
+        return QRect(ZonaIzquierda[4] - 10 - LARGO_NOMBRE, AltoVentana - 20, LARGO_NOMBRE, 17);
+    }
+}
 
 void DibujaNombres() {
     if (Pic_Mesa.Imagen.isNull()) return;

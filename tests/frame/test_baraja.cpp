@@ -512,9 +512,10 @@ TEST_F(BarajaTest, RepartoDeLasBancas) {
     BarajaMazo();
     PosicionMazo = 101;
     CartasEnMazo = 212;
-    const auto zapato = std::vector<int>(&Baraja[1][0], &Baraja[313][0]);
+    const auto zapato = std::vector<int>(&Baraja[1][0], &Baraja[1][0] + MAX_BARAJA * 3);
     ReparteCartas();
-    EXPECT_EQ(zapato, std::vector<int>(&Baraja[1][0], &Baraja[313][0])) << "no new shuffle";
+    EXPECT_EQ(zapato, std::vector<int>(&Baraja[1][0], &Baraja[1][0] + MAX_BARAJA * 3))
+        << "no new shuffle";
     EXPECT_EQ(NumCartas[2][1], 1);
     EXPECT_EQ(NumCartas[1][1], 0);
     EXPECT_EQ(CartaMano(3, 1), CartaBaraja(101));

@@ -410,10 +410,10 @@ TEST_F(DibujoTest, NombresDeLosSeatsEnJuego) {
             for (int x = r.left(); x <= r.right(); ++x) n += Mesa(x, y) == qRgb(255, 255, 255);
         return n;
     };
-    EXPECT_GT(blancos(QRect(0, ZonaAbajo[1], 20, 160)), 5);
+    EXPECT_GT(blancos(QRect(0, 0, 12, ZonaArriba[1])), 5);
     EXPECT_GT(blancos(QRect(ZonaDerecha[2], 0, 170, 20)), 5);
     EXPECT_GT(blancos(QRect(ZonaIzquierda[4] - 160, AltoVentana - 22, 160, 22)), 5);
-    EXPECT_EQ(blancos(QRect(AnchoMesa - 20, 0, 20, ZonaArriba[3])), 0);
+    EXPECT_EQ(blancos(QRect(AnchoMesa - 14, ZonaAbajo[3], 14, 170)), 0);
 }
 
 TEST_F(DibujoTest, ElRotuloPartePorElPrimerBlancoDesdeLaMitad) {

@@ -238,8 +238,7 @@ TEST(Geometria, PilasYNombresNoPisanLasCartas) {
                     pilas |= QRect(PilaX[z][p] + DesplazaMontonX(k),
                                    PilaY[z][p] + DesplazaMontonY(z, k), 33, 33);
             EXPECT_TRUE(mesaEntera.contains(pilas)) << "zone " << z;
-            // What BorraPila wipes: the block and a margin of 6 for the lean.
-            const QRect borrado = z <= 4 ? BloquePila(z).adjusted(-6, -6, 6, 6) : BloquePila(z);
+            const QRect borrado = AreaBorrado(z);
             EXPECT_TRUE(borrado.contains(pilas)) << "zone " << z;
             for (int s = 1; s <= 4; ++s)
                 EXPECT_FALSE(borrado.intersects(RectZona(s))) << z << " on seat " << s;
@@ -253,6 +252,14 @@ TEST(Geometria, PilasYNombresNoPisanLasCartas) {
                                 .adjusted(-1, -1, 1, 1)
                                 .contains(QRect(PilaX[z][p], PilaY[z][p], 33, 33)))
                     << "zone " << z << " pile " << p;
+        // With four seats the trump and the stock of Tute take the top left corner.
+        const QRect triunfo = QRect(30 - 18, 2 + 20, 141, 101) | QRect(30, 2, 114, 154);
+        for (int z : {1, 2, 3, 4}) {
+            EXPECT_FALSE(AreaBorrado(z).intersects(triunfo)) << "zone " << z;
+            EXPECT_FALSE(CajaNombre(z).intersects(triunfo)) << "name " << z;
+            for (const QRect& pilas : ocupados) EXPECT_FALSE(CajaNombre(z).intersects(pilas)) << z;
+            for (int s = 1; s <= 4; ++s) EXPECT_FALSE(CajaNombre(z).intersects(RectZona(s))) << z;
+        }
         // The pot clears the stock of Póker.
         JuegoActual = JUEGO_POKER;
         ColocaMazo();
