@@ -6,6 +6,7 @@
 #include "frame/Ficheros.h"
 #include "frame/TrufalBas.h"
 #include "frame/TrufalGbl.h"
+#include "platform/CajaImagen.h"
 #include "platform/Ayuda.h"
 #include "platform/Carpetas.h"
 #include "platform/Voz.h"
@@ -125,6 +126,8 @@ void Main() {
     const QSize tamano = pantalla ? pantalla->size() : QSize(1024, 768);
     if (!PruebaResolucion(tamano.width(), tamano.height())) SalidaInmediata();
     FijaTamanoVentana(tamano.width(), tamano.height());
+    // A dense screen gets every picture at double resolution; the table keeps its sizes.
+    EscalaMesa = pantalla && pantalla->devicePixelRatio() >= 1.5 ? 2 : 1;
     CargaMesa();
     PreparaMesa();
     PreparaBotonera();

@@ -54,15 +54,17 @@ void PintaMiniatura(QPainter& p, int id, int x, int y, bool elegida) {
     if (EsIdComodin(id)) {
         const QImage& hoja = Pic_Comodin[1].Imagen;
         if (!hoja.isNull())
-            p.drawImage(QPoint(x + COMODIN_X, y + COMODIN_Y), hoja,
-                        QRect(ESQUINA_X, ESQUINA_Y, ANCHO_TIRA_COMODIN, ALTO_TIRA_COMODIN));
+            p.drawImage(
+                QPoint(x + COMODIN_X, y + COMODIN_Y),
+                CopiaLogica(hoja, ESQUINA_X, ESQUINA_Y, ANCHO_TIRA_COMODIN, ALTO_TIRA_COMODIN));
         return;
     }
     const QImage& hoja = Pic_Baraja[1].Imagen;
     if (hoja.isNull()) return;
-    p.drawImage(QPoint(x + TIRA_X, y + TIRA_Y), hoja,
-                QRect((ValorDeId - 1) * ANCHO_CARTA + ESQUINA_X,
-                      (PaloDeId - 1) * ALTO_CARTA + ESQUINA_Y, ANCHO_TIRA, AltoMiniatura - 4));
+    p.drawImage(QPoint(x + TIRA_X, y + TIRA_Y),
+                CopiaLogica(hoja, (ValorDeId - 1) * ANCHO_CARTA + ESQUINA_X,
+                            (PaloDeId - 1) * ALTO_CARTA + ESQUINA_Y, ANCHO_TIRA,
+                            AltoMiniatura - 4));
 }
 
 void BorraSeleccion() {

@@ -5,15 +5,29 @@
 #include <QImage>
 #include <QString>
 
+// Pixels of the screen for each pixel of the table: 2 on a dense screen, where every picture
+// is kept at double resolution so that cards stay sharp. Drawing always speaks of table pixels.
+inline int EscalaMesa = 1;
+
 struct CajaImagen {
-    QImage Imagen;    // the picture, in logical pixels
+    QImage Imagen;    // the picture, EscalaMesa screen pixels for each table pixel
     int X = 0, Y = 0; // place on the window when the box is a control of it
     bool Visible = false;
     QString Texto; // caption or tooltip, for the boxes that carry one
 
-    int Ancho() const { return Imagen.width(); }
-    int Alto() const { return Imagen.height(); }
+    int Ancho() const { return AnchoLogico(Imagen); }
+    int Alto() const { return AltoLogico(Imagen); }
+    static int AnchoLogico(const QImage& i) { return qRound(i.width() / i.devicePixelRatio()); }
+    static int AltoLogico(const QImage& i) { return qRound(i.height() / i.devicePixelRatio()); }
 };
+
+// A new picture of a size in table pixels, at the table's resolution, filled with a colour.
+QImage NuevaImagen(int ancho, int alto, unsigned colorRgb = 0x000000);
+// A part of a picture, given in table pixels; it keeps the picture's resolution.
+QImage CopiaLogica(const QImage& imagen, int x, int y, int ancho, int alto);
+// A sheet made in table pixels, brought to the table's resolution: its double-size drawing when
+// there is one of the right size, else the same picture enlarged.
+QImage AEscalaMesa(const QImage& sencilla, const QImage& doble = QImage());
 
 enum class OpRaster { Copia, And, Xor, Or };
 
@@ -22,6 +36,7 @@ void DimensionaCaja(CajaImagen& caja, int ancho, int alto, unsigned colorRgb = 0
 
 // BitBlt: copies a w by h block from (xs, ys) of the source to (x, y) of the target,
 // combining every pixel with the raster operation. Parts outside either picture are clipped.
+// Coordinates are table pixels; both pictures are taken at the target's resolution.
 void Transfiere(QImage& destino, int x, int y, int ancho, int alto, const QImage& origen, int xs,
                 int ys, OpRaster op);
 

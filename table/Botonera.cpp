@@ -55,8 +55,8 @@ void CargaCaras() {
 
 QImage CaraBoton(int indice) {
     CargaCaras();
-    if (Pic_BmpBoton.Imagen.width() >= 8 * 49 - 1)
-        return Pic_BmpBoton.Imagen.copy((indice - 1) * 49, 0, 48, 48);
+    if (Pic_BmpBoton.Ancho() >= 8 * 49 - 1)
+        return CopiaLogica(Pic_BmpBoton.Imagen, (indice - 1) * 49, 0, 48, 48);
     return CaraProvisional(indice);
 }
 
@@ -139,8 +139,7 @@ void CalculaLineas() {
 }
 
 void PintaContinuar(bool pulsado) {
-    QImage cara(86, 36, QImage::Format_RGB32);
-    cara.fill(QColor::fromRgb(COLOR_BOTONERA));
+    QImage cara = NuevaImagen(86, 36, COLOR_BOTONERA);
     QPainter p(&cara);
     p.setRenderHint(QPainter::Antialiasing);
     QLinearGradient g(0, 0, 0, 36);

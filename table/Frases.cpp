@@ -17,8 +17,7 @@ constexpr unsigned COLOR_SOMBRA = 0x004000;
 
 // Puts the strip back as the seat's cards leave it: table, and the parts of raised cards.
 void RepintaFranja(int seat, const QRect& franja) {
-    QImage trozo(franja.size(), QImage::Format_RGB32);
-    trozo.fill(QColor::fromRgb(COLOR_MESA));
+    QImage trozo = NuevaImagen(franja.width(), franja.height(), COLOR_MESA);
     PintaCartasSeat(trozo, seat, franja.x(), franja.y());
     Transfiere(Pic_Mesa.Imagen, franja.x(), franja.y(), franja.width(), franja.height(), trozo, 0,
                0, OpRaster::Copia);

@@ -34,12 +34,24 @@ QImage ImagenNegra(int ancho, int alto) {
 
 // Everything outside the rounded outline of each cell turns black, so that the XOR over the
 // mask leaves the table showing through the corners (a JPEG never keeps that black exact).
-void LimpiaEsquinas(QImage& hoja, int anchoCelda, int altoCelda) {
+void LimpiaEsquinas(QImage& hoja, int anchoCelda, int altoCelda, int escala = 1) {
+    anchoCelda *= escala;
+    altoCelda *= escala;
     for (int y = 0; y < hoja.height(); ++y) {
         auto* fila = reinterpret_cast<QRgb*>(hoja.scanLine(y));
         for (int x = 0; x < hoja.width(); ++x)
-            if (!DentroCarta(x % anchoCelda, y % altoCelda, anchoCelda, altoCelda)) fila[x] = NEGRO;
+            if (!DentroCarta(x % anchoCelda, y % altoCelda, anchoCelda, altoCelda, 6.0 * escala))
+                fila[x] = NEGRO;
     }
+}
+
+// The double-size drawing of a sheet of the resources, when the table needs it.
+QImage RecursoDoble(const char* nombre) {
+    if (EscalaMesa == 1) return QImage();
+    QString doble = QString::fromLatin1(nombre);
+    doble.insert(doble.lastIndexOf('.'), QStringLiteral("@2x"));
+    const QString ruta = QStringLiteral(":/assets/") + doble;
+    return QFile::exists(ruta) ? CargaImagen(ruta) : QImage();
 }
 
 // ---- Plain stand-ins ----
@@ -202,19 +214,25 @@ void CargaReversos() {
         reales && TieneTamano(tumbados, ALTO_CARTA, CELDAS_REVERSO * ANCHO_CARTA)
             ? tumbados
             : GiraCuarto(Pic_BarReversos[1].Imagen);
+    Pic_BarReversos[1].Imagen =
+        AEscalaMesa(Pic_BarReversos[1].Imagen, reales ? RecursoDoble("Reversos.png") : QImage());
+    Pic_BarReversos[2].Imagen = AEscalaMesa(
+        Pic_BarReversos[2].Imagen, reales ? RecursoDoble("ReversosTumbados.png") : QImage());
 }
 
 void CargaFichas() {
     QImage fichas = CargaRecurso("Fichas.png");
-    if (!TieneTamano(fichas, CELDAS_FICHA * LADO_FICHA, LADO_FICHA)) fichas = FichasProvisionales();
-    Pic_FichasApu[1].Imagen = fichas;
+    const bool reales = TieneTamano(fichas, CELDAS_FICHA * LADO_FICHA, LADO_FICHA);
+    if (!reales) fichas = FichasProvisionales();
+    Pic_FichasApu[1].Imagen = AEscalaMesa(fichas, reales ? RecursoDoble("Fichas.png") : QImage());
     for (int o = 2; o <= 4; ++o) Pic_FichasApu[o].Imagen = GiraCuarto(Pic_FichasApu[o - 1].Imagen);
 }
 
 void CargaComodin() {
     QImage comodin = CargaRecurso("Comodin.png");
-    Pic_Comodin[1].Imagen =
-        TieneTamano(comodin, ANCHO_CARTA, ALTO_CARTA) ? comodin : ComodinProvisional();
+    const bool real = TieneTamano(comodin, ANCHO_CARTA, ALTO_CARTA);
+    Pic_Comodin[1].Imagen = AEscalaMesa(real ? comodin : ComodinProvisional(),
+                                        real ? RecursoDoble("Comodin.png") : QImage());
 }
 
 void CargaPequenas() {
@@ -229,6 +247,12 @@ void CargaPequenas() {
     Pic_BmpContr.Imagen = contr.isNull() ? HojaProvisional(48, 23, QString()) : contr;
     QImage numeros = CargaRecurso("NumerosCristal.png");
     Pic_NumerosCristal.Imagen = numeros.isNull() ? NumerosProvisionales() : numeros;
+    Pic_BmpVario.Imagen =
+        AEscalaMesa(Pic_BmpVario.Imagen, vario.isNull() ? QImage() : RecursoDoble("Vario.png"));
+    Pic_BmpBoton.Imagen = AEscalaMesa(Pic_BmpBoton.Imagen, RecursoDoble("Botones.png"));
+    Pic_BmpContr.Imagen = AEscalaMesa(Pic_BmpContr.Imagen, RecursoDoble("Contr.png"));
+    Pic_NumerosCristal.Imagen =
+        AEscalaMesa(Pic_NumerosCristal.Imagen, RecursoDoble("NumerosCristal.png"));
 }
 
 QImage BuscaBaraja(const QString& nombre) {
@@ -269,6 +293,17 @@ void CargaBaraja() {
                        .convertToFormat(QImage::Format_RGB32);
         LimpiaEsquinas(hoja, ANCHO_CARTA, ALTO_CARTA);
     }
+    if (EscalaMesa > 1) {
+        // A dense screen takes the double-size deck beside the plain one, when it is there.
+        QString doble = nombre;
+        doble.insert(doble.lastIndexOf('.'), QStringLiteral("@2x"));
+        QImage grande = BuscaBaraja(doble);
+        if (!grande.isNull() &&
+            (grande.width() != ancho * EscalaMesa || grande.height() != alto * EscalaMesa))
+            grande = QImage();
+        hoja = AEscalaMesa(hoja, grande);
+        LimpiaEsquinas(hoja, ANCHO_CARTA, ALTO_CARTA, EscalaMesa);
+    }
     Pic_Baraja[1].Imagen = hoja;
     ImagenesGiradas();
 }
@@ -288,18 +323,19 @@ void ImagenesGiradas() {
 void ReversosReducidos() {
     const QImage& reversos = Pic_BarReversos[1].Imagen;
     const int diseno = std::clamp(ReversoCartas, 1, CELDAS_REVERSO - 1);
-    QImage pequeno(ANCHO_REDU, ALTO_REDU, QImage::Format_RGB32);
-    pequeno.fill(QColor::fromRgb(COLOR_MESA));
-    if (reversos.width() >= (diseno + 1) * ANCHO_CARTA) {
-        pequeno =
-            reversos.copy(diseno * ANCHO_CARTA, 0, ANCHO_CARTA, ALTO_CARTA)
-                .scaled(ANCHO_REDU, ALTO_REDU, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
-                .convertToFormat(QImage::Format_RGB32);
+    const int k = qRound(reversos.devicePixelRatio());
+    QImage pequeno = NuevaImagen(ANCHO_REDU, ALTO_REDU, COLOR_MESA);
+    if (CajaImagen::AnchoLogico(reversos) >= (diseno + 1) * ANCHO_CARTA) {
+        pequeno = CopiaLogica(reversos, diseno * ANCHO_CARTA, 0, ANCHO_CARTA, ALTO_CARTA)
+                      .scaled(ANCHO_REDU * k, ALTO_REDU * k, Qt::IgnoreAspectRatio,
+                              Qt::SmoothTransformation)
+                      .convertToFormat(QImage::Format_RGB32);
+        pequeno.setDevicePixelRatio(k);
         // The small back is copied straight onto the table, so its corners take the table's
         // colour here.
-        for (int y = 0; y < ALTO_REDU; ++y)
-            for (int x = 0; x < ANCHO_REDU; ++x)
-                if (!DentroCarta(x, y, ANCHO_REDU, ALTO_REDU, 5.0))
+        for (int y = 0; y < ALTO_REDU * k; ++y)
+            for (int x = 0; x < ANCHO_REDU * k; ++x)
+                if (!DentroCarta(x, y, ANCHO_REDU * k, ALTO_REDU * k, 5.0 * k))
                     pequeno.setPixel(x, y, 0xFF000000u | COLOR_MESA);
     }
     Pic_ReversoRedu[1].Imagen = pequeno;

@@ -32,8 +32,8 @@ QImage CaraMensaje(QPoint cara, const QString& rotulo) {
     if (Pic_BmpBoton.Imagen.isNull() && QFile::exists(":/assets/Botones.png"))
         Pic_BmpBoton.Imagen = CargaImagen(":/assets/Botones.png");
     const QImage& hoja = Pic_BmpBoton.Imagen;
-    if (hoja.width() >= cara.x() + 48 && hoja.height() >= cara.y() + 48)
-        return hoja.copy(cara.x(), cara.y(), 48, 48);
+    if (Pic_BmpBoton.Ancho() >= cara.x() + 48 && Pic_BmpBoton.Alto() >= cara.y() + 48)
+        return CopiaLogica(hoja, cara.x(), cara.y(), 48, 48);
     // A plain face while the sheet isn't there.
     QImage imagen(48, 48, QImage::Format_RGB32);
     imagen.fill(QColor(0, 96, 0));

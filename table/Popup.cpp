@@ -22,11 +22,10 @@ std::vector<int> Lineas() {
 
 void PintaPopup() {
     const auto lineas = Lineas();
-    QImage imagen(ANCHO_POPUP, ALTO_LINEA * int(lineas.size()) + 4, QImage::Format_RGB32);
-    imagen.fill(QColor(250, 248, 240));
+    QImage imagen = NuevaImagen(ANCHO_POPUP, ALTO_LINEA * int(lineas.size()) + 4, 0xFAF8F0);
     QPainter p(&imagen);
     p.setPen(QColor(90, 90, 90));
-    p.drawRect(imagen.rect().adjusted(0, 0, -1, -1));
+    p.drawRect(QRect(0, 0, ANCHO_POPUP - 1, ALTO_LINEA * int(lineas.size()) + 3));
     QFont letra("DejaVu Sans");
     letra.setPixelSize(12);
     p.setFont(letra);

@@ -36,12 +36,13 @@ bool HayCartaElegida(int seat) {
 void SkinPorDefecto(QImage& imagen, bool pulsado) {
     QPainter p(&imagen);
     p.setRenderHint(QPainter::Antialiasing);
-    QLinearGradient g(0, 0, 0, imagen.height());
+    const int w = CajaImagen::AnchoLogico(imagen), h = CajaImagen::AltoLogico(imagen);
+    QLinearGradient g(0, 0, 0, h);
     g.setColorAt(0, pulsado ? QColor(150, 110, 40) : QColor(250, 225, 150));
     g.setColorAt(1, pulsado ? QColor(220, 180, 90) : QColor(190, 140, 50));
     p.setBrush(g);
     p.setPen(QPen(QColor(70, 40, 10), 1));
-    p.drawRoundedRect(QRectF(0.5, 0.5, imagen.width() - 1, imagen.height() - 1), 5, 5);
+    p.drawRoundedRect(QRectF(0.5, 0.5, w - 1, h - 1), 5, 5);
 }
 
 // The skin of the sheet: left end, a middle column repeated, right end.
@@ -50,15 +51,18 @@ bool SkinDeLamina(QImage& imagen, bool pulsado) {
         Pic_BmpContr.Imagen = CargaImagen(":/assets/Contr.png");
     const QImage& hoja = Pic_BmpContr.Imagen;
     if (hoja.isNull()) return false;
-    const int fila = pulsado && hoja.height() >= 2 * ALTO_PULSADOR ? ALTO_PULSADOR : 0;
+    const int fila =
+        pulsado && CajaImagen::AltoLogico(hoja) >= 2 * ALTO_PULSADOR ? ALTO_PULSADOR : 0;
     const int extremo = 8;
-    const int w = imagen.width();
+    const int w = CajaImagen::AnchoLogico(imagen);
     QPainter p(&imagen);
-    p.drawImage(QRect(0, 0, extremo, ALTO_PULSADOR), hoja, QRect(0, fila, extremo, ALTO_PULSADOR));
-    p.drawImage(QRect(extremo, 0, w - 2 * extremo, ALTO_PULSADOR), hoja,
-                QRect(extremo, fila, 1, ALTO_PULSADOR));
-    p.drawImage(QRect(w - extremo, 0, extremo, ALTO_PULSADOR), hoja,
-                QRect(hoja.width() - extremo, fila, extremo, ALTO_PULSADOR));
+    const int anchoHoja = CajaImagen::AnchoLogico(hoja);
+    p.drawImage(QRect(0, 0, extremo, ALTO_PULSADOR),
+                CopiaLogica(hoja, 0, fila, extremo, ALTO_PULSADOR));
+    p.drawImage(QRect(extremo, 0, w - 2 * extremo, ALTO_PULSADOR),
+                CopiaLogica(hoja, extremo, fila, 1, ALTO_PULSADOR));
+    p.drawImage(QRect(w - extremo, 0, extremo, ALTO_PULSADOR),
+                CopiaLogica(hoja, anchoHoja - extremo, fila, extremo, ALTO_PULSADOR));
     return true;
 }
 
@@ -119,8 +123,7 @@ void DecidePulsadores(int seat, bool quiere[103]) {
 
 void DibujaPulsador(int indice, bool tumbado, bool pulsado) {
     const int ancho = AnchoDe(indice);
-    QImage imagen(ancho, ALTO_PULSADOR, QImage::Format_RGB32);
-    imagen.fill(QColor::fromRgb(COLOR_MESA));
+    QImage imagen = NuevaImagen(ancho, ALTO_PULSADOR, COLOR_MESA);
     if (!SkinDeLamina(imagen, pulsado)) SkinPorDefecto(imagen, pulsado);
     {
         QPainter p(&imagen);
@@ -129,7 +132,7 @@ void DibujaPulsador(int indice, bool tumbado, bool pulsado) {
         letra.setBold(true);
         p.setFont(letra);
         p.setPen(QColor(40, 20, 0));
-        p.drawText(imagen.rect().translated(0, pulsado ? 1 : 0), Qt::AlignCenter,
+        p.drawText(QRect(0, pulsado ? 1 : 0, ancho, ALTO_PULSADOR), Qt::AlignCenter,
                    EtiquetaControl[indice]);
     }
     if (tumbado) imagen = GiraCuarto(GiraCuarto(GiraCuarto(imagen)));

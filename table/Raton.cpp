@@ -47,11 +47,12 @@ bool SobreMazo(int x, int y) {
 // The card of the hand hangs from the pointer as a small picture while it is dragged.
 void ColgaraCarta(int seat, int posicion) {
     const auto& c = CartasJugador[seat][SerieActual][posicion];
-    QImage imagen(ANCHO_CARTA, ALTO_CARTA, QImage::Format_RGB32);
-    imagen.fill(QColor::fromRgb(COLOR_MESA));
+    QImage imagen = NuevaImagen(ANCHO_CARTA, ALTO_CARTA, COLOR_MESA);
     DibujaCarta(imagen, 0, 0, 1, c[CAMPO_PALO], c[CAMPO_VALOR], CARA_VISIBLE);
-    Pic_Mover.Imagen = imagen.scaled(ANCHO_CARTA * 2 / 3, ALTO_CARTA * 2 / 3, Qt::KeepAspectRatio,
-                                     Qt::SmoothTransformation);
+    Pic_Mover.Imagen =
+        imagen.scaled(ANCHO_CARTA * 2 / 3 * EscalaMesa, ALTO_CARTA * 2 / 3 * EscalaMesa,
+                      Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    Pic_Mover.Imagen.setDevicePixelRatio(EscalaMesa);
     Pic_Mover.Visible = true;
 }
 
@@ -64,19 +65,19 @@ void DibujaMiniaturaEnMover() {
         Pic_Mover.Visible = false;
         return;
     }
-    QImage tira(28 * int(ids.size()), AltoMiniatura, QImage::Format_RGB32);
-    tira.fill(Qt::white);
+    QImage tira = NuevaImagen(28 * int(ids.size()), AltoMiniatura, 0xFFFFFF);
     QPainter p(&tira);
     for (int i = 0; i < int(ids.size()); ++i) {
         CartaDeId(ids[i]);
         const QRect celda(i * 28, 0, 27, AltoMiniatura);
         p.fillRect(celda, QColor(0xC0, 0xC0, 0xC0));
         if (EsIdComodin(ids[i]))
-            p.drawImage(QRect(i * 28 + 3, 9, 21, 20), Pic_Comodin[1].Imagen, QRect(4, 4, 21, 20));
+            p.drawImage(QRect(i * 28 + 3, 9, 21, 20),
+                        CopiaLogica(Pic_Comodin[1].Imagen, 4, 4, 21, 20));
         else if (!Pic_Baraja[1].Imagen.isNull())
-            p.drawImage(QRect(i * 28 + 7, 2, 13, AltoMiniatura - 4), Pic_Baraja[1].Imagen,
-                        QRect((ValorDeId - 1) * ANCHO_CARTA + 4, (PaloDeId - 1) * ALTO_CARTA + 4,
-                              13, AltoMiniatura - 4));
+            p.drawImage(QRect(i * 28 + 7, 2, 13, AltoMiniatura - 4),
+                        CopiaLogica(Pic_Baraja[1].Imagen, (ValorDeId - 1) * ANCHO_CARTA + 4,
+                                    (PaloDeId - 1) * ALTO_CARTA + 4, 13, AltoMiniatura - 4));
         p.setPen(Qt::black);
         p.drawRect(celda.adjusted(0, 0, -1, -1));
     }

@@ -79,7 +79,7 @@ int ValorSerieBlackJack(int seat, int serie) {
 
 void PintaTantos(int seat, int numero, bool enmarcado) {
     QImage& panel = Pic_Tantos[seat].Imagen;
-    panel = QImage(44, 23, QImage::Format_RGB32);
+    panel = NuevaImagen(44, 23);
     panel.fill(QColor(0, 0x40, 0));
     QPainter p(&panel);
     if (enmarcado) {

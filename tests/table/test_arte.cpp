@@ -23,8 +23,12 @@ QString Ruta(const QString& nombre) {
     return QStringLiteral(TRUFAL_SOURCE_DIR "/assets/") + nombre;
 }
 
+// A sheet as its grid of pixels: a double-size file is read as pixels too, not as a picture
+// of half its size.
 QImage Lee(const QString& nombre) {
-    return QImage(Ruta(nombre)).convertToFormat(QImage::Format_ARGB32);
+    QImage hoja = QImage(Ruta(nombre)).convertToFormat(QImage::Format_ARGB32);
+    hoja.setDevicePixelRatio(1);
+    return hoja;
 }
 
 int Diferencia(QRgb a, QRgb b) {
