@@ -8,6 +8,7 @@
 #include "frame/Arranque.h"
 #include "frame/TrufalGbl.h"
 #include "platform/Carpetas.h"
+#include "support/MesaDePrueba.h"
 #include "table/Mensajes.h"
 
 namespace {
@@ -16,11 +17,6 @@ void Escribe(const QString& ruta, const QByteArray& datos) {
     QFile f(ruta);
     ASSERT_TRUE(f.open(QIODevice::WriteOnly));
     f.write(datos);
-}
-
-QByteArray Lee(const QString& ruta) {
-    QFile f(ruta);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
 }
 
 } // namespace
@@ -50,9 +46,9 @@ TEST(Arranque, AReadOnlyInstallWorksInTheFallbackAndASecondRunCopiesNothing) {
     const QString reserva = usuario.path() + "/Trb/";
     EXPECT_TRUE(CarpetaTemporal);
     EXPECT_EQ(CarpetaTrabajo, reserva);
-    EXPECT_EQ(Lee(reserva + "TRF32.INI"), "plantilla") << "the template becomes TRF32.INI";
-    EXPECT_EQ(Lee(reserva + "TRF5332.INI"), "tute");
-    EXPECT_EQ(Lee(reserva + "Baraja02.jpg"), "jpg");
+    EXPECT_EQ(LeeFichero(reserva + "TRF32.INI"), "plantilla") << "the template becomes TRF32.INI";
+    EXPECT_EQ(LeeFichero(reserva + "TRF5332.INI"), "tute");
+    EXPECT_EQ(LeeFichero(reserva + "Baraja02.jpg"), "jpg");
     EXPECT_FALSE(QFile::exists(reserva + "TRF5132.INI")) << "a missing file is skipped";
 
     // The settings of the first run survive the second.
@@ -61,7 +57,7 @@ TEST(Arranque, AReadOnlyInstallWorksInTheFallbackAndASecondRunCopiesNothing) {
     CarpetaTrabajo = dir;
     PruebaCarpeta();
     EXPECT_EQ(CarpetaTrabajo, reserva);
-    EXPECT_EQ(Lee(reserva + "TRF32.INI"), "cambiado");
+    EXPECT_EQ(LeeFichero(reserva + "TRF32.INI"), "cambiado");
     EXPECT_FALSE(QFile::exists(reserva + "TRF5332.INI")) << "nothing is copied again";
     FijaCarpetas("", "");
 }

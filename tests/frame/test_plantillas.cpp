@@ -7,22 +7,16 @@
 #include "frame/TrufalGbl.h"
 #include "support/MesaDePrueba.h"
 
-namespace {
-QByteArray Lee(const QString& ruta) {
-    QFile f(ruta);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-} // namespace
-
 TEST(Plantillas, EachGameFileShippedIsWhatAMissingFileIsRebuiltWith) {
     MesaDePrueba mesa;
     for (int juego = JUEGO_POKER; juego <= JUEGO_PUMBA; ++juego) {
         JuegoActual = juego;
         LeeJuego(); // missing here: the defaults are written
         const QString nombre = NombreFicheroJuego(juego);
-        const QByteArray enviado = Lee(QStringLiteral(TRUFAL_SOURCE_DIR "/assets/") + nombre);
+        const QByteArray enviado =
+            LeeFichero(QStringLiteral(TRUFAL_SOURCE_DIR "/assets/") + nombre);
         ASSERT_FALSE(enviado.isEmpty()) << nombre.toStdString();
-        EXPECT_EQ(enviado, Lee(mesa.Ruta(nombre))) << nombre.toStdString();
+        EXPECT_EQ(enviado, LeeFichero(mesa.Ruta(nombre))) << nombre.toStdString();
         // A shipped file must not start a match by itself.
         EXPECT_FALSE(PartidaViva) << nombre.toStdString();
     }

@@ -1,10 +1,17 @@
 #include "support/MesaDePrueba.h"
 
+#include <QFile>
+
 #include "frame/Ciclo.h"
 #include "frame/TrufalGbl.h"
 #include "table/Botonera.h"
 #include "table/Dibujo.h"
 #include "table/Mensajes.h"
+
+QByteArray LeeFichero(const QString& ruta) {
+    QFile f(ruta);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
 
 void ReiniciaEstado() {
     static const int nivel[5] = {0, 50, 50, 50, 100};

@@ -2,6 +2,7 @@
 // pauses at the top speed, messages answered from a script and the person played by the test.
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <QTemporaryDir>
 #include <functional>
@@ -12,6 +13,9 @@ struct MesaDePrueba {
     ~MesaDePrueba();
     QString Ruta(const QString& nombre) const { return Carpeta.path() + "/" + nombre; }
 };
+
+// The bytes of a file, empty when it can't be read.
+QByteArray LeeFichero(const QString& ruta);
 
 // Puts every seat and rule setting to its factory value, and clears a match.
 void ReiniciaEstado();
