@@ -42,6 +42,7 @@ VentanaMesa::VentanaMesa() {
     setFocusPolicy(Qt::StrongFocus);
     setMinimumSize(800, 600);
     setAttribute(Qt::WA_OpaquePaintEvent);
+    setAttribute(Qt::WA_AlwaysShowToolTips);
 }
 
 QRectF VentanaMesa::AreaMesa() const {
