@@ -29,6 +29,7 @@ QPointer<QTextBrowser> Navegador;
 } // namespace
 
 void AbreAyuda(int tema) {
+    UltimoTemaAyuda = tema;
     const QString carpeta = CarpetaAyuda();
     QString pagina = carpeta + QString::number(tema) + ".html";
     // An unknown topic opens the index, never an error.

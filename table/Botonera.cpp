@@ -9,6 +9,7 @@
 #include "table/Dibujo.h"
 #include "table/Mensajes.h"
 #include "table/Mesa.h"
+#include "table/Tutor.h"
 
 #include <QFile>
 #include <QLinearGradient>
@@ -239,6 +240,9 @@ void PulsaBoton(int indice) {
     switch (indice) {
     case 1:
         PulsaComenzar();
+        break;
+    case 4:
+        Tutor();
         break;
     case 7:
         AbreAyuda(TEMA_AYUDA_PROGRAMA);

@@ -5,6 +5,7 @@
 #include "frame/TrufalGbl.h"
 #include "table/Dibujo.h"
 #include "table/DibujoComun.h"
+#include "table/Voces.h"
 
 #include <QFontMetrics>
 #include <QPainter>
@@ -84,6 +85,9 @@ void EscribeFrase(int seat, int hablar) {
         EscribeTexto(seat, texto, ColorWindows(COLOR_SOMBRA), 1);
         EscribeTexto(seat, texto, ColorWindows(ColorFrase[seat][SerieActual]), 0);
     }
-    // The voice of the phrase is the voices' part of the table; this only writes it.
-    (void)hablar;
+    // Drawn before it is said: the person reads the phrase while the seat speaks it.
+    if (FraseSeHabla(hablar)) {
+        RefrescaMesa();
+        Habla(seat, texto);
+    }
 }

@@ -6,6 +6,7 @@
 #include "frame/TrufalGbl.h"
 #include "table/Dibujo.h"
 #include "table/DibujoComun.h"
+#include "table/Sugerencia.h"
 
 #include <QPainter>
 #include <QLinearGradient>
@@ -167,6 +168,7 @@ void PreparaMesa() {
     PreparaBarra();
     PonPalabras();
     CargaLaminas();
+    IniciaTextosInformacion();
 }
 
 void ColocaMazo() {

@@ -12,6 +12,7 @@
 #include "table/Mesa.h"
 #include "table/Popup.h"
 #include "table/Pulsadores.h"
+#include "table/Sugerencia.h"
 
 #include <QPainter>
 
@@ -283,6 +284,8 @@ void RatonPulsado(int x, int y, int boton, bool control) {
     RatonX = x;
     RatonY = y;
     BotonRaton = boton;
+    // The information pane lies over the table and takes the presses made on it.
+    if (Pic_Sugerencia.Visible && Dentro(Pic_Sugerencia, x, y) && PulsaSugerencia(x, y)) return;
     if (DentroPopup(x, y)) return; // the choice is made on release
     if (!EligiendoOpcion) OcultaPopup();
     if (boton != 1) return;
