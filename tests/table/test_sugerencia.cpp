@@ -3,6 +3,8 @@
 // playing.
 #include <gtest/gtest.h>
 
+#include <QPainter>
+
 #include "frame/TrufalGbl.h"
 #include "platform/Ayuda.h"
 #include "support/MesaDePrueba.h"
@@ -390,3 +392,14 @@ TEST(SugerenciaFrasesTutor, FrasesDeEnviteDelMus) {
 }
 
 } // namespace
+
+// For a person to look at: the table with the pane of entry 9 over it, written to
+// /tmp/trufal_sugerencia.png. Run with --gtest_also_run_disabled_tests.
+TEST_F(SugerenciaTest, DISABLED_GuardaLaMesaConElPanel) {
+    MuestraInformacion(9);
+    QImage vista = Pic_Mesa.Imagen.copy();
+    QPainter p(&vista);
+    p.drawImage(Pic_Sugerencia.X, Pic_Sugerencia.Y, Pic_Sugerencia.Imagen);
+    p.end();
+    ASSERT_TRUE(vista.save("/tmp/trufal_sugerencia.png"));
+}
