@@ -48,9 +48,9 @@ inline bool SerieCerrada[5][5] = {};
 
 // ---- Tables of the trick games, erased at each hand ----
 inline int GanadorDeBaza[41] = {};
-inline int HistoriaBazas[41][5][3] = {}; // [trick][seat][1 suit, 2 value]
+inline int HistoriaBazas[41][5][5] = {}; // [trick][seat][1 suit, 2 value, 3 won, 4 suit sung]
 inline int TantosDeBaza[41] = {};
-inline bool CartaVista[6][14] = {};
+inline int CartaVista[6][14] = {};   // [suit][value]: seat that played it, 0 unplayed
 inline bool AcuseCantado[5][5] = {}; // [seat][suit]
 inline bool SinPalo[5][5] = {};
 
