@@ -60,6 +60,10 @@ double FactorVelocidad(int velocidad) {
 }
 
 void Pausa(int ms) {
+    if (PausasACero) {
+        MarcaTiempo = 0;
+        return;
+    }
     if (MarcaTiempo == 0) MarcaTiempo = Ahora();
     const double espera = ms * FactorVelocidad(VelocidadJuego);
     // The pause is over once the clock has passed the mark by the scaled time: at the top
@@ -91,6 +95,16 @@ void EsperaJugada() {
     }
     OcultaContinuar();
     PersonaJugando = false;
+}
+
+void EsperaBotonera() {
+    DibujaContinuar(false);
+    EsperandoPersona = true;
+    while (EsperandoPersona) {
+        BombaDeEspera();
+        if (!PartidaViva) return;
+    }
+    OcultaContinuar();
 }
 
 void NuevaPartida() {
@@ -308,7 +322,8 @@ void EligeMano() {
 }
 
 void FinPartida() {
-    if (ModalidadPareja == 1) {
+    // Pairs play only with four seats.
+    if (ModalidadPareja == 1 || NumJugadores != 4) {
         TextoMensaje = SaltoLinea;
         if (GanadorPartida == 4)
             TextoMensaje += NombreJugador[4] + ", has ganado la partida. ";

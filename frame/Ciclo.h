@@ -13,7 +13,13 @@ void BorraTablasMano();
 // Closes a match: its text under "Final de Partida", the offer of the history, an empty table.
 void CierraPartida(const QString& texto, int lineas);
 void EsperaJugada();
+// The big button alone, at the end of a hand: the table waits until it is pressed, or the
+// match is left.
+void EsperaBotonera();
 void Pausa(int ms);
+// Benchmarks and long automatic matches in the tests: every pause is over at once, not at the
+// next tick of the clock.
+inline bool PausasACero = false;
 void OcultaContinuar();
 void SorteoInicial();
 void EligeMano();

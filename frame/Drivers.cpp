@@ -2,10 +2,17 @@
 #include "frame/Ciclo.h"
 
 #include "frame/TrufalGbl.h"
+#include "games/tutebrisca/Partida.h"
 #include "table/Dibujo.h"
 
 void JuegaPartida() {
     switch (JuegoActual) {
+    case JUEGO_TUTE:
+        JuegaTute();
+        break;
+    case JUEGO_BRISCA:
+        JuegaBrisca();
+        break;
     // Each game's own driver takes its place here as it comes to the table.
     default:
         JuegaProvisional();

@@ -117,7 +117,6 @@ void EmpiezaBaza() {
 
 void PonCartaEnBaza(int seat, int pos) {
     const int palo = PaloEn(seat, pos), valor = ValorEn(seat, pos);
-    ++CartasEnBaza;
     CartaEnMesa[seat][1] = palo;
     CartaEnMesa[seat][2] = valor;
     OrdenJugadas[CartasEnBaza] = pos;

@@ -25,9 +25,11 @@ bool TieneCarta(int seat, int palo, int valor);
 int FuerzaCarta(int palo, int valor);
 
 // ---- The trick ----
-void EmpiezaBaza();                     // clears the table and sets ObligacionActiva
-void PonCartaEnBaza(int seat, int pos); // the card leaves the hand and lies on the table
-void ResuelveBaza();                    // GanadorBaza and TantosBaza
+void EmpiezaBaza(); // clears the table and sets ObligacionActiva
+// The card leaves the hand and lies on the table, as the CartasEnBaza-th of the trick: the turn
+// was counted when it began.
+void PonCartaEnBaza(int seat, int pos);
+void ResuelveBaza(); // GanadorBaza and TantosBaza
 int PuntosEnMesa();
 void AnotaBaza(); // last-trick bonus, the tallies and the history of the trick just resolved
 

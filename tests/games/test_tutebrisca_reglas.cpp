@@ -48,6 +48,7 @@ std::vector<Carta> Mano(int seat) {
 // A seat lays one card on the table as the driver would: from its hand into the trick.
 void Juega(int seat, Carta carta) {
     DaMano(seat, {carta});
+    ++CartasEnBaza; // the turn is counted when it begins
     PonCartaEnBaza(seat, 1);
 }
 
@@ -340,6 +341,7 @@ TEST_F(TuteBriscaReglas, LaCartaJugadaDejaHuecoCerradoYAnotaLosPalosQueFaltan) {
     JugadorSalida = 1;
     Juega(1, {COPAS, 4});
     DaMano(2, {{ESPADAS, 1}, {BASTOS, 3}, {ESPADAS, 5}});
+    ++CartasEnBaza;
     PonCartaEnBaza(2, 2);
     EXPECT_EQ(Mano(2), (std::vector<Carta>{{ESPADAS, 1}, {ESPADAS, 5}}));
     EXPECT_EQ(OrdenJugadas[2], 2);
@@ -372,6 +374,7 @@ double JuegaManoEntera(int cartasPorSeat) {
     for (int b = 1; b <= cartasPorSeat; ++b) {
         EmpiezaBaza();
         for (int k = 0, s = JugadorSalida; k < seats; ++k, s = s % seats + 1) {
+            ++CartasEnBaza;
             ListaCartasLegales(s);
             PonCartaEnBaza(s, Candidatas[1][2]);
         }

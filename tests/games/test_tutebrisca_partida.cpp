@@ -1,0 +1,320 @@
+// Whole matches of Tute and Brisca at a table without a window: automatic seats playing to the
+// end, the person laying cards with the mouse, the exchange of the trump, the last draws, the
+// songs and the message and record of the end of a hand.
+#include "frame/Baraja.h"
+#include "frame/Ciclo.h"
+#include "frame/TrufalBas.h"
+#include "frame/TrufalGbl.h"
+#include "games/tutebrisca/Partida.h"
+#include "games/tutebrisca/Reglas.h"
+#include "support/MesaDePrueba.h"
+#include "table/Dibujo.h"
+#include "table/Mensajes.h"
+#include "table/Raton.h"
+
+#include <cstdio>
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr int OROS = 1, COPAS = 2, ESPADAS = 3, BASTOS = 4;
+
+int Vistos(const QString& titulo) {
+    int n = 0;
+    for (const auto& m : MensajesVistos) n += m.Titulo == titulo;
+    return n;
+}
+
+void DaMano(int seat, std::initializer_list<std::pair<int, int>> cartas) {
+    for (auto& p : CartasJugador[seat][1])
+        for (auto& f : p) f = 0;
+    int pos = 0;
+    for (const auto& [palo, valor] : cartas) {
+        auto& c = CartasJugador[seat][1][++pos];
+        c[CAMPO_PALO] = palo;
+        c[CAMPO_VALOR] = valor;
+        c[CAMPO_CARA] = CartasVisibles[seat];
+    }
+    NumCartas[seat][1] = pos;
+}
+
+// A match laid out as the table lays it: the game's deck and places, every seat the computer's
+// unless said otherwise, no pauses, and the big button pressed at the end of each hand.
+void PreparaPartida(int juego, int jugadores, int pareja = 1) {
+    JuegoActual = juego;
+    NumJugadores = jugadores;
+    for (int s = 1; s <= 4; ++s) {
+        EstadoJugador[s] = s <= jugadores ? ESTADO_ACTIVADO : ESTADO_DESACTIVADO;
+        ControlJugador[s] = CONTROL_AUTOMATICO;
+    }
+    ModalidadPareja = pareja;
+    ParametrosJuego();
+    ColocaMazo();
+    ColocaTriunfo();
+    PausasACero = true;
+    ContinuarManual = false;
+    PersonaGuionada = [] { EsperandoPersona = false; };
+}
+
+struct Fin {
+    ~Fin() { PausasACero = false; }
+};
+
+} // namespace
+
+// Every hand adds up: the card points of the deck (and the last trick in Tute), and the songs
+// on top in Tute, 20 each and 40 for the trump suit; one side takes each hand, and the match
+// ends when a side reaches the hands asked for.
+TEST(TuteBriscaPartida, AutomaticMatchesAddUpAndEndAtTheLimit) {
+    Fin fin;
+    const struct {
+        int juego, jugadores, pareja;
+    } casos[] = {{JUEGO_BRISCA, 2, 1}, {JUEGO_BRISCA, 3, 1}, {JUEGO_BRISCA, 4, 1},
+                 {JUEGO_BRISCA, 4, 2}, {JUEGO_TUTE, 2, 1},   {JUEGO_TUTE, 3, 1},
+                 {JUEGO_TUTE, 4, 1},   {JUEGO_TUTE, 4, 2}};
+    for (const auto& c : casos) {
+        MesaDePrueba mesa;
+        PreparaPartida(c.juego, c.jugadores, c.pareja);
+        LimitePartida = 2;
+        NuevaPartida();
+        const QString caso = QStringLiteral("%1 %2 %3").arg(c.juego).arg(c.jugadores).arg(c.pareja);
+        ASSERT_EQ(Vistos("Final de Partida"), 1) << caso.toStdString();
+        EXPECT_EQ(Vistos("Final de la mano"), NumeroMano) << caso.toStdString();
+        EXPECT_EQ(JuegosGanados[GanadorPartida], 2);
+        int ganadas = 0;
+        for (int mano = 1; mano <= NumeroMano; ++mano) {
+            const RegistroMano& r = RegistroManos[mano];
+            int tantos = 0, acuses = 0, ganadores = 0;
+            bool tute = false;
+            for (int s = 1; s <= c.jugadores; ++s) {
+                tantos += r.Resultado[s].toInt();
+                acuses += r.Extra[s];
+                ganadores += r.Gana[s][1];
+                tute = tute || r.Detalle[s].startsWith("Tute de ");
+            }
+            EXPECT_EQ(ganadores, c.pareja == 2 ? 2 : 1) << caso.toStdString() << " mano " << mano;
+            if (c.juego == JUEGO_BRISCA) {
+                EXPECT_EQ(tantos, 120) << caso.toStdString() << " mano " << mano;
+                EXPECT_EQ(acuses, 0);
+            } else if (!tute) {
+                const int cantes = tantos - 130;
+                EXPECT_TRUE(cantes == 20 * acuses || cantes == 20 * acuses + 20)
+                    << caso.toStdString() << " mano " << mano << ": " << tantos << " tantos, "
+                    << acuses << " acuses";
+            }
+        }
+        for (int s = 1; s <= 4; ++s) ganadas += JuegosGanados[s];
+        EXPECT_EQ(ganadas, NumeroMano) << caso.toStdString();
+        EXPECT_FALSE(PartidaViva);
+    }
+}
+
+// The person at seat 4 plays Tute bound from the first trick: a click on a card the rule
+// forbids is not taken, a click on a legal card plays it.
+TEST(TuteBriscaPartida, ThePersonLaysOnlyLegalCardsWithTheMouse) {
+    Fin fin;
+    MesaDePrueba mesa;
+    PreparaPartida(JUEGO_TUTE, 4);
+    ControlJugador[4] = CONTROL_MANUAL;
+    CartasVisibles[4] = CARA_VISIBLE;
+    ObligacionAsistir = 2;
+    LimitePartida = 1;
+    int turnos = 0, rechazos = 0, jugadas = 0;
+    PersonaGuionada = [&] {
+        if (!EsperandoPersona) return;
+        if (!ManoViva || JugadorActual != 4) {
+            EsperandoPersona = false;
+            return;
+        }
+        ++turnos;
+        const int n = NumCartas[4][1];
+        for (int pos = 1; pos <= n; ++pos) {
+            PosicionCarta(4, pos, n);
+            const int x = CartaX + 3, y = CartaY + 40;
+            bool legal = false;
+            for (int i = 1; i <= NumCandidatas; ++i) legal = legal || Candidatas[i][2] == pos;
+            RatonMovido(x, y, false);
+            RatonPulsado(x, y, 1, false);
+            if (!legal) {
+                EXPECT_EQ(CursorActual, 23);
+                EXPECT_TRUE(EsperandoPersona) << "an illegal card was taken";
+                ++rechazos;
+                continue;
+            }
+            EXPECT_FALSE(EsperandoPersona);
+            EXPECT_EQ(CartaElegida, pos);
+            ++jugadas;
+            return;
+        }
+    };
+    NuevaPartida();
+    EXPECT_GT(turnos, 0);
+    EXPECT_EQ(jugadas, turnos) << "each turn of the person ended with a legal card";
+    std::printf("[          ] clics rechazados: %d en %d turnos\n", rechazos, turnos);
+    EXPECT_EQ(Vistos("Final de Partida"), 1);
+}
+
+// The seat that took the last trick exchanges the 7 for the turned-up card; the person does it
+// with a click on the stock, under pointer 41.
+TEST(TuteBriscaPartida, ASevenTakesTheTurnedUpCardFromAClickOnTheStock) {
+    Fin fin;
+    MesaDePrueba mesa;
+    PreparaPartida(JUEGO_BRISCA, 2);
+    EstadoJugador[2] = ESTADO_DESACTIVADO;
+    EstadoJugador[4] = ESTADO_ACTIVADO;
+    ControlJugador[4] = CONTROL_MANUAL;
+    CartasVisibles[4] = CARA_VISIBLE;
+    ColocaTriunfo();
+    MazoX = TriunfoX;
+    MazoY = TriunfoY;
+    NumeroMano = 1;
+    PartidaViva = ManoViva = true;
+    FaseJuego = 4;
+    PaloTriunfo = COPAS;
+    ValorTriunfo = 1; // the As lies turned up: the 7 takes it
+    MuestraTriunfo = true;
+    CartasEnMazo = 10;
+    DaMano(4, {{OROS, 4}, {COPAS, 7}, {BASTOS, 12}});
+    DaMano(1, {{ESPADAS, 4}, {ESPADAS, 5}, {ESPADAS, 6}});
+    GanadorBaza = 4;
+    JugadorActual = 4;
+    JugadorSalida = 1;
+    CartasEnBaza = 2;
+    ASSERT_EQ(HallaCodigoCambio(4), 7);
+
+    PersonaJugando = true;
+    EsperandoPersona = true;
+    RatonMovido(MazoX + 50, MazoY + 70, false);
+    EXPECT_EQ(CursorActual, 41);
+    RatonPulsado(MazoX + 50, MazoY + 70, 1, false);
+    EXPECT_TRUE(PideCambio);
+    EXPECT_FALSE(EsperandoPersona);
+    CambiaPinta();
+    EXPECT_EQ(ValorTriunfo, 7);
+    EXPECT_EQ(PaloTriunfo, COPAS);
+    EXPECT_EQ(CodigoJugada, 0);
+    EXPECT_TRUE(TieneCarta(4, COPAS, 1));
+    EXPECT_EQ(PosicionHallada, 2) << "the As takes the place of the 7";
+    EXPECT_FALSE(TieneCarta(4, COPAS, 7));
+    // With no more than a round of draws left in the stock, Brisca allows no exchange.
+    CartasEnMazo = 2;
+    DaMano(4, {{OROS, 4}, {COPAS, 4}, {BASTOS, 12}});
+    ValorTriunfo = 2;
+    EXPECT_EQ(HallaCodigoCambio(4), 0);
+    PartidaViva = ManoViva = false;
+}
+
+// The last card of the stock goes to one seat and the turned-up card to the next; then nothing
+// is left to draw.
+TEST(TuteBriscaPartida, TheTurnedUpCardIsTheLastOneDrawn) {
+    Fin fin;
+    MesaDePrueba mesa;
+    PreparaPartida(JUEGO_BRISCA, 4);
+    for (auto& c : Baraja) c[1] = c[2] = 0;
+    PosicionMazo = 40;
+    Baraja[40][CAMPO_PALO] = BASTOS;
+    Baraja[40][CAMPO_VALOR] = 3;
+    CartasEnMazo = 1;
+    PaloTriunfo = OROS;
+    ValorTriunfo = 12;
+    MuestraTriunfo = true;
+    for (int s = 1; s <= 4; ++s) DaMano(s, {{ESPADAS, s + 3}, {COPAS, s + 3}});
+    GanadorBaza = 3;
+    RobanCartas();
+    EXPECT_TRUE(TieneCarta(3, BASTOS, 3));
+    EXPECT_TRUE(TieneCarta(4, OROS, 12)) << "the turned-up Rey goes to the seat after";
+    EXPECT_EQ(NumCartas[1][1], 2);
+    EXPECT_EQ(NumCartas[2][1], 2);
+    EXPECT_EQ(CartasEnMazo, 0);
+    EXPECT_FALSE(MuestraTriunfo);
+    RobanCartas(); // an empty stock gives nothing
+    EXPECT_EQ(NumCartas[1][1], 2);
+}
+
+// After a trick of Tute the winner sings the suit where it holds fewest cards (the trump on equal
+// counts, for 40), and in pairs its partner sings too, in the same step.
+TEST(TuteBriscaPartida, TheWinnerAndItsPartnerSingAfterTheTrick) {
+    Fin fin;
+    MesaDePrueba mesa;
+    PreparaPartida(JUEGO_TUTE, 4, 2);
+    for (auto& s : AcuseCantado)
+        for (auto& p : s) p = false;
+    for (auto& s : TantosJugador) s[1] = 0;
+    PaloTriunfo = OROS;
+    NumeroBaza = 3;
+    TantosDeBaza[3] = 5;
+    TuteCantado = false;
+    DaMano(1, {{COPAS, 11}, {COPAS, 12}, {OROS, 11}, {OROS, 12}, {BASTOS, 1}});
+    DaMano(3, {{ESPADAS, 11}, {ESPADAS, 12}, {BASTOS, 4}});
+    DaMano(2, {{COPAS, 1}});
+    DaMano(4, {{COPAS, 3}});
+    GanadorBaza = 1;
+    CantaAcuses();
+    EXPECT_TRUE(AcuseCantado[1][OROS]);
+    EXPECT_FALSE(AcuseCantado[1][COPAS]) << "one song a trick";
+    EXPECT_TRUE(AcuseCantado[3][ESPADAS]);
+    EXPECT_EQ(TantosJugador[1][1], 40);
+    EXPECT_EQ(TantosJugador[3][1], 20);
+    EXPECT_EQ(TantosDeBaza[3], 65);
+    EXPECT_EQ(HistoriaBazas[3][1][4], OROS);
+    EXPECT_EQ(HistoriaBazas[3][3][4], ESPADAS);
+    // The next trick won, copas can be sung; oros can't be sung twice.
+    NumeroBaza = 4;
+    CantaAcuses();
+    EXPECT_TRUE(AcuseCantado[1][COPAS]);
+    EXPECT_EQ(TantosJugador[1][1], 60);
+    EXPECT_FALSE(TuteCantado);
+}
+
+// The message of the end of a hand: the tantos of each seat from the leader round, and the
+// winner; on equal tantos the seat that took a trick last; and the record of the hand.
+TEST(TuteBriscaPartida, TheEndOfAHandTellsTheTantosAndKeepsTheRecord) {
+    Fin fin;
+    MesaDePrueba mesa;
+    PreparaPartida(JUEGO_BRISCA, 3);
+    for (int s = 1; s <= 3; ++s) NombreJugador[s] = QStringLiteral("J%1").arg(s);
+    NumeroMano = 2;
+    PartidaViva = true;
+    JugadorMano = 2;
+    for (auto& s : AcuseCantado)
+        for (auto& p : s) p = false;
+    TantosJugador[1][1] = 50;
+    TantosJugador[2][1] = 20;
+    TantosJugador[3][1] = 50;
+    NumeroBaza = 3;
+    GanadorDeBaza[1] = 3;
+    GanadorDeBaza[2] = 1;
+    GanadorDeBaza[3] = 2;
+    GanadorBaza = 2;
+    TuteCantado = false;
+    for (auto& j : JuegosGanados) j = 0;
+    MensajesVistos.clear();
+    FinalManoTB();
+    EXPECT_EQ(GanadorMano, 1) << "of the tied seats, seat 1 took a trick last";
+    ASSERT_EQ(Vistos("Final de la mano"), 1);
+    const MensajeVisto& m = MensajesVistos.back();
+    EXPECT_EQ(m.Texto.toStdString(), "J2 : 20 tantos.\r\nJ3 : 50 tantos.\r\nJ1 : 50 tantos.\r\n\r\n"
+                                     "Ha ganado la mano J1");
+    EXPECT_EQ(m.Lineas, 5);
+    EXPECT_EQ(JuegosGanados[1], 1);
+    EXPECT_EQ(RegistroManos[2].Gana[1][1], 1);
+    EXPECT_EQ(RegistroManos[2].Gana[3][1], 0);
+    EXPECT_EQ(RegistroManos[2].Resultado[3], "50");
+    EXPECT_FALSE(ManoViva);
+    EXPECT_EQ(FaseJuego, 9);
+
+    // A Tute sung by seat 4 (the person) in Tute.
+    PreparaPartida(JUEGO_TUTE, 4);
+    NombreJugador[4] = "Ana";
+    PartidaViva = true;
+    DaMano(4, {{OROS, 12}, {COPAS, 12}, {ESPADAS, 12}, {BASTOS, 12}, {OROS, 1}});
+    CantaTute(4);
+    EXPECT_TRUE(TuteCantado);
+    MensajesVistos.clear();
+    FinalManoTB();
+    EXPECT_EQ(GanadorMano, 4);
+    EXPECT_EQ(MensajesVistos.back().Texto,
+              "Se ha cantado Tute de Reyes\r\n\r\nAna, has ganado la mano. ");
+    EXPECT_EQ(RegistroManos[2].Detalle[4], "Tute de Reyes");
+    PartidaViva = false;
+}
