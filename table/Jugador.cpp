@@ -48,7 +48,11 @@ void DibujaCartas(int seat) {
         if (AnularReparto) PintaCartasSeat(Pic_Mesa.Imagen, seat);
         return;
     }
-    BorraZona(zona.x(), zona.y(), zona.width(), zona.height());
+    // A long row rounds out one pixel past the zone at either end: wipe that pixel too.
+    const bool enFila = seat == 2 || seat == 4;
+    const QRect limpia =
+        zona.adjusted(enFila ? -1 : 0, enFila ? 0 : -1, enFila ? 1 : 0, enFila ? 0 : 1);
+    BorraZona(limpia.x(), limpia.y(), limpia.width(), limpia.height());
     if (PintaCartasSeat(Pic_Mesa.Imagen, seat)) SuenaMesa(SONIDO_ASINCRONO, 26);
 }
 

@@ -93,6 +93,8 @@ void EsperaCartaPersona() {
         if (!PideCambio) return;
         PideCambio = false;
         if (CodigoJugada != 0) CambiaPinta();
+        // The exchange is done: the pane no longer offers it.
+        MuestraInformacion(TextoDelTurno());
         PersonaJugando = true;
     }
 }

@@ -90,9 +90,12 @@ TEST(Ciclo, TheDrawNamesTheSeatThatGotTheFirstAceAndHandsRotate) {
 }
 
 TEST(Ciclo, APostponedMatchResumesAtTheHandUnderWay) {
-    for (int guardadaEn : {1, 3}) {
+    const std::pair<int, int> casos[] = {
+        {JUEGO_BRISCA, 1}, {JUEGO_BRISCA, 3}, {JUEGO_TUTE, 1}, {JUEGO_TUTE, 3}};
+    for (const auto& [juego, guardadaEn] : casos) {
         MesaDePrueba mesa;
-        JuegoActual = JUEGO_BRISCA;
+        JuegoActual = juego;
+        PausasACero = true;
         TurnoSalida = 1;
         int manoAlGuardar = 0;
         JuegaConGuion([&](int) {
@@ -107,7 +110,7 @@ TEST(Ciclo, APostponedMatchResumesAtTheHandUnderWay) {
         ASSERT_TRUE(Visto("Posponer la partida en curso"));
 
         // The file keeps the hands before the one under way, and the leader of the hand before.
-        QFile fichero(mesa.Ruta("TRF5432.INI"));
+        QFile fichero(mesa.Ruta("TRF" + QString::number(juego) + "32.INI"));
         ASSERT_TRUE(fichero.open(QIODevice::ReadOnly));
         const QString linea1 = QString::fromLatin1(fichero.readLine()).mid(1);
         EXPECT_EQ(linea1.mid(103, 2), "-1") << "PartidaViva";
@@ -119,7 +122,7 @@ TEST(Ciclo, APostponedMatchResumesAtTheHandUnderWay) {
 
         // Next start: the same hand number, led by the same seat.
         ReiniciaEstado();
-        JuegoActual = JUEGO_BRISCA;
+        JuegoActual = juego;
         int manoReanudada = 0, leader = 0;
         JuegaConGuion([&](int) {
             manoReanudada = NumeroMano;
@@ -130,6 +133,7 @@ TEST(Ciclo, APostponedMatchResumesAtTheHandUnderWay) {
         EXPECT_TRUE(Visto("Continuar la partida anterior"));
         EXPECT_EQ(manoReanudada, guardadaEn);
         EXPECT_EQ(leader, manoAlGuardar);
+        PausasACero = false;
     }
 }
 

@@ -7,6 +7,8 @@
 #include "games/tutebrisca/Reglas.h"
 #include "games/tutebrisca/Simulacion.h"
 
+#include "support/ManosTuteBrisca.h"
+
 #include <gtest/gtest.h>
 #include <algorithm>
 #include <set>
@@ -14,31 +16,6 @@
 #include <vector>
 
 namespace {
-
-using Carta = std::pair<int, int>; // suit, value
-constexpr int OROS = 1, COPAS = 2, ESPADAS = 3, BASTOS = 4;
-
-void PonTablasTuteBrisca() {
-    const int orden[13] = {0, 10, 1, 9, 2, 3, 4, 5, 0, 0, 6, 7, 8};
-    const int puntos[13] = {0, 11, 0, 10, 0, 0, 0, 0, 0, 0, 2, 3, 4};
-    for (int v = 0; v <= 13; ++v) {
-        OrdenValor[v] = v <= 12 ? orden[v] : 0;
-        PuntosValor[v] = v <= 12 ? puntos[v] : 0;
-        ValorEnJuego[v] = v >= 1 && (v <= 7 || v == 10 || v == 11 || v == 12);
-    }
-}
-
-void DaMano(int seat, const std::vector<Carta>& cartas) {
-    for (auto& p : CartasJugador[seat][1])
-        for (auto& f : p) f = 0;
-    int pos = 0;
-    for (const auto& [palo, valor] : cartas) {
-        ++pos;
-        CartasJugador[seat][1][pos][CAMPO_PALO] = palo;
-        CartasJugador[seat][1][pos][CAMPO_VALOR] = valor;
-    }
-    NumCartas[seat][1] = pos;
-}
 
 // A seat that has already played this trick lays its card on the table.
 void Juega(int seat, Carta carta) {

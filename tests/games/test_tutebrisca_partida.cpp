@@ -13,29 +13,16 @@
 #include "table/Raton.h"
 
 #include <cstdio>
+#include "support/ManosTuteBrisca.h"
+
 #include <gtest/gtest.h>
 
 namespace {
-
-constexpr int OROS = 1, COPAS = 2, ESPADAS = 3, BASTOS = 4;
 
 int Vistos(const QString& titulo) {
     int n = 0;
     for (const auto& m : MensajesVistos) n += m.Titulo == titulo;
     return n;
-}
-
-void DaMano(int seat, std::initializer_list<std::pair<int, int>> cartas) {
-    for (auto& p : CartasJugador[seat][1])
-        for (auto& f : p) f = 0;
-    int pos = 0;
-    for (const auto& [palo, valor] : cartas) {
-        auto& c = CartasJugador[seat][1][++pos];
-        c[CAMPO_PALO] = palo;
-        c[CAMPO_VALOR] = valor;
-        c[CAMPO_CARA] = CartasVisibles[seat];
-    }
-    NumCartas[seat][1] = pos;
 }
 
 // A match laid out as the table lays it: the game's deck and places, every seat the computer's

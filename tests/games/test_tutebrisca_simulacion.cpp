@@ -6,37 +6,15 @@
 #include "games/tutebrisca/Simulacion.h"
 #include "support/MesaDePrueba.h"
 
+#include "support/ManosTuteBrisca.h"
+
 #include <gtest/gtest.h>
 #include <utility>
 #include <vector>
 
 namespace {
 
-using Carta = std::pair<int, int>; // suit, value
-constexpr int OROS = 1, COPAS = 2, ESPADAS = 3, BASTOS = 4;
 constexpr int AS = 1, TRES = 3, SOTA = 10, CABALLO = 11, REY = 12;
-
-// The strengths and points of the Spanish deck in the trick games, as a player counts them.
-void PonTablasTuteBrisca() {
-    const int orden[13] = {0, 10, 1, 9, 2, 3, 4, 5, 0, 0, 6, 7, 8};
-    const int puntos[13] = {0, 11, 0, 10, 0, 0, 0, 0, 0, 0, 2, 3, 4};
-    for (int v = 0; v <= 13; ++v) {
-        OrdenValor[v] = v <= 12 ? orden[v] : 0;
-        PuntosValor[v] = v <= 12 ? puntos[v] : 0;
-    }
-}
-
-void DaMano(int seat, const std::vector<Carta>& cartas) {
-    for (auto& p : CartasJugador[seat][1])
-        for (auto& f : p) f = 0;
-    int pos = 0;
-    for (const auto& [palo, valor] : cartas) {
-        ++pos;
-        CartasJugador[seat][1][pos][CAMPO_PALO] = palo;
-        CartasJugador[seat][1][pos][CAMPO_VALOR] = valor;
-    }
-    NumCartas[seat][1] = pos;
-}
 
 // The chooser's list as the search reads it: positions from the card to shed to the card to keep.
 void PonCandidatas(const std::vector<int>& posiciones) {
