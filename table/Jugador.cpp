@@ -35,6 +35,19 @@ bool ApuestaALaVista(int seat) {
            CartasJugador[seat][SerieActual][1][CAMPO_ESTADO] != 1;
 }
 
+// The rectangle the seat's row of cards covers, raised cards included.
+QRect ExtensionFila(int seat) {
+    QRect fila;
+    const int total = NumCartas[seat][SerieActual];
+    const bool tumbada = OrientacionSeat[seat] == 2 || OrientacionSeat[seat] == 4;
+    const int ancho = tumbada ? ALTO_CARTA : ANCHO_CARTA, alto = tumbada ? ANCHO_CARTA : ALTO_CARTA;
+    for (int p = 1; p <= total; ++p) {
+        PosicionCarta(seat, p, total);
+        fila = fila.united(QRect(CartaX, CartaY, ancho, alto));
+    }
+    return fila;
+}
+
 bool SenasEnLaZona(int seat) {
     return JuegoActual == JUEGO_MUS && SenasVisibles[seat];
 }
@@ -48,11 +61,12 @@ void DibujaCartas(int seat) {
         if (AnularReparto) PintaCartasSeat(Pic_Mesa.Imagen, seat);
         return;
     }
-    // A long row rounds out one pixel past the zone at either end: wipe that pixel too.
-    const bool enFila = seat == 2 || seat == 4;
-    const QRect limpia =
-        zona.adjusted(enFila ? -1 : 0, enFila ? 0 : -1, enFila ? 1 : 0, enFila ? 0 : 1);
+    // A long row (ten or twelve cards) runs a few pixels past the zone at either end, as its
+    // step is rounded: what the last row covered is wiped with the zone.
+    static QRect filaAnterior[5];
+    const QRect limpia = zona.united(filaAnterior[seat]);
     BorraZona(limpia.x(), limpia.y(), limpia.width(), limpia.height());
+    filaAnterior[seat] = ExtensionFila(seat);
     if (PintaCartasSeat(Pic_Mesa.Imagen, seat)) SuenaMesa(SONIDO_ASINCRONO, 26);
 }
 

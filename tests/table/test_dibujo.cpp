@@ -512,3 +512,33 @@ TEST(DibujoBaraja, SeBuscaEnLaCarpetaDeTrabajoYLuegoEnLaDelPrograma) {
 }
 
 } // namespace
+
+// A row of ten or twelve cards runs a little past its zone; when it shrinks, nothing of it may
+// stay behind on the table, in any of the four seats.
+TEST_F(DibujoTest, UnaFilaLargaQueEncogeNoDejaRastro) {
+    for (int seat = 1; seat <= 4; ++seat) {
+        for (int total : {12, 10}) {
+            SCOPED_TRACE(testing::Message() << "seat " << seat << ", " << total << " cards");
+            BorraVentana();
+            for (int p = 1; p <= total; ++p) DaCarta(seat, p, 1 + p % 4, 1 + p % 7);
+            DibujaJugador(seat);
+            QRect fila;
+            for (int p = 1; p <= total; ++p) {
+                PosicionCarta(seat, p, total);
+                const bool tumbada = seat == 1 || seat == 3;
+                fila |= QRect(CartaX, CartaY, tumbada ? 141 : 101, tumbada ? 101 : 141);
+            }
+            for (int p = 1; p <= total; ++p) CartasJugador[seat][1][p][CAMPO_PALO] = 0;
+            NumCartas[seat][1] = 0;
+            DaCarta(seat, 1, 2, 5);
+            DibujaJugador(seat);
+            NumCartas[seat][1] = 0;
+            CartasJugador[seat][1][1][CAMPO_PALO] = 0;
+            DibujaJugador(seat);
+            int restos = 0;
+            for (int y = fila.top(); y <= fila.bottom(); ++y)
+                for (int x = fila.left(); x <= fila.right(); ++x) restos += Mesa(x, y) != VERDE;
+            EXPECT_EQ(restos, 0);
+        }
+    }
+}
