@@ -1,6 +1,7 @@
 #include "platform/CajaImagen.h"
 
 #include <algorithm>
+#include <cstring>
 
 QImage NuevaImagen(int ancho, int alto, unsigned colorRgb) {
     QImage imagen(std::max(ancho, 1) * EscalaMesa, std::max(alto, 1) * EscalaMesa,
@@ -93,7 +94,11 @@ void Transfiere(QImage& destino, int x, int y, int ancho, int alto, const QImage
         const auto* s = reinterpret_cast<const QRgb*>(fuente.constScanLine(ys + j)) + xs;
         switch (op) {
         case OpRaster::Copia:
-            for (int i = 0; i < ancho; ++i) d[i] = s[i] | 0xFF000000u;
+            // An RGB32 row already carries its opaque alpha: it is copied whole.
+            if (fuente.format() == QImage::Format_RGB32)
+                std::memcpy(d, s, sizeof(QRgb) * static_cast<size_t>(ancho));
+            else
+                for (int i = 0; i < ancho; ++i) d[i] = s[i] | 0xFF000000u;
             break;
         case OpRaster::And:
             for (int i = 0; i < ancho; ++i) d[i] = (d[i] & s[i]) | 0xFF000000u;
