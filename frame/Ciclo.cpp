@@ -120,6 +120,7 @@ void NuevaPartida() {
     OrdenManual = false;
     FichasActivas = false;
     TuteCantado = false;
+    GanadorBaza = 0; // nobody took a trick before the first hand: no exchange in its first trick
     Randomiza();
     if (JuegoActual != JUEGO_BLACKJACK && TurnoSalida == 1) SorteoInicial();
     if (!PartidaViva) return;
@@ -149,6 +150,7 @@ void AbreJuego() {
     PasoSentidoPumba = PasoSentido;
     EsperandoPersona = OrdenManual = FichasActivas = TutorEnCurso = false;
     PuedeAbrir = PuedeDoblar = PuedeAsegurar = MensajeSobreVentana = false;
+    GanadorBaza = 0; // the files don't keep who took the last trick
     OcultaPulsadores();
     Pic_Apostadora.Visible = false;
     Pic_Sugerencia.Visible = false;

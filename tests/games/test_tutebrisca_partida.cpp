@@ -305,3 +305,25 @@ TEST(TuteBriscaPartida, TheEndOfAHandTellsTheTantosAndKeepsTheRecord) {
     EXPECT_EQ(RegistroManos[2].Detalle[4], "Tute de Reyes");
     PartidaViva = false;
 }
+
+// The winner of the last trick of an earlier match can't exchange in the first trick of a new
+// one: in the first hand nobody has taken a trick yet.
+TEST(TuteBriscaPartida, ANewMatchStartsWithNobodyToExchange) {
+    Fin fin;
+    MesaDePrueba mesa;
+    PreparaPartida(JUEGO_BRISCA, 2);
+    ControlJugador[1] = CONTROL_MANUAL;
+    LimitePartida = 1;
+    GanadorBaza = 1; // left over from a match before
+    int vistos = 0;
+    PersonaGuionada = [&] {
+        if (ManoViva && NumeroBaza == 1 && ++vistos == 1) {
+            EXPECT_EQ(GanadorBaza, 0);
+            EXPECT_EQ(CodigoJugada, 0);
+        }
+        if (ManoViva && NumeroBaza > 1) PartidaViva = false;
+        EsperandoPersona = false;
+    };
+    NuevaPartida();
+    EXPECT_GT(vistos, 0);
+}
