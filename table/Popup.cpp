@@ -1,6 +1,7 @@
 #include "table/Popup.h"
 
 #include "frame/OrdenaMano.h"
+#include "table/Raton.h"
 #include "frame/TrufalGbl.h"
 #include "platform/Sonido.h"
 #include "table/Dibujo.h"
@@ -125,7 +126,10 @@ void SueltaPopup(int, int y) {
         OrdenManual = !OrdenManual;
         break;
     case OPCION_ORDEN_AUTOMATICO:
-        if (SeatPopup > 0) OrdenaMano(SeatPopup);
+        if (SeatPopup > 0) {
+            OrdenaMano(SeatPopup);
+            RehaceCandidatas(SeatPopup);
+        }
         RefrescaMesa();
         break;
     default:

@@ -120,6 +120,7 @@ void SueltaCartaArrastrada() {
         for (int f = 0; f <= 5; ++f) mano[p][f] = mano[p - 1][f];
     for (int f = 0; f <= 5; ++f) mano[destino][f] = carta[f];
     CompactaMano(seat);
+    RehaceCandidatas(seat);
     DibujaJugador(seat);
     Sonido(SONIDO_ASINCRONO, 25);
     RefrescaMesa();
@@ -266,6 +267,12 @@ void HallaFilyCol(int x, int y) {
     if (fila == 5 && columna > NumComodines) return;
     PaloDeId = fila;
     ValorDeId = columna;
+}
+
+void RehaceCandidatas(int seat) {
+    if (seat != JugadorActual || !PersonaJugando || !EsperandoPersona) return;
+    if (JuegoActual < 0 || JuegoActual >= 60 || !RutinaCandidatas[JuegoActual]) return;
+    RutinaCandidatas[JuegoActual]();
 }
 
 bool JugadaPermitida() {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <functional>
 
 void RatonPulsado(int x, int y, int boton, bool control);
 void RatonMovido(int x, int y, bool pulsado);
@@ -18,3 +19,10 @@ void DetectaJdorYCar(int x, int y);
 void HallaFilyCol(int x, int y);
 // Whether the card under the pointer may be played now.
 bool JugadaPermitida();
+
+// The chooser of the game in play, by game code, that lists the person's legal cards anew in
+// Candidatas once the person has put the hand in another order at their own turn.
+inline std::function<void()> RutinaCandidatas[60];
+// After the seat's hand was reordered: on the person's own turn, its legal cards are listed again
+// for the new positions.
+void RehaceCandidatas(int seat);

@@ -12,6 +12,7 @@
 #include "platform/Bomba.h"
 #include "table/Dibujo.h"
 #include "table/Mesa.h"
+#include "table/Raton.h"
 #include "table/Sugerencia.h"
 #include "table/Tutor.h"
 
@@ -41,6 +42,9 @@ const bool TutorRegistrado = [] {
         EligeCartaBrisca();
         return ConsejoTutor{};
     };
+    // A hand put in another order moves the positions of the legal cards.
+    RutinaCandidatas[JUEGO_TUTE] = EligeCartaTute;
+    RutinaCandidatas[JUEGO_BRISCA] = EligeCartaBrisca;
     return true;
 }();
 

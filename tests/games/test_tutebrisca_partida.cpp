@@ -12,6 +12,7 @@
 #include "table/Mensajes.h"
 #include "table/Raton.h"
 
+#include <algorithm>
 #include <cstdio>
 #include "support/ManosTuteBrisca.h"
 
@@ -115,6 +116,15 @@ TEST(TuteBriscaPartida, ThePersonLaysOnlyLegalCardsWithTheMouse) {
         }
         ++turnos;
         const int n = NumCartas[4][1];
+        // The person first turns the hand round: the legal cards follow their new places.
+        auto& mano = CartasJugador[4][1];
+        std::reverse(&mano[1], &mano[n + 1]);
+        RehaceCandidatas(4);
+        for (int pos = 1; pos <= n; ++pos) {
+            bool enLista = false;
+            for (int i = 1; i <= NumCandidatas; ++i) enLista = enLista || Candidatas[i][2] == pos;
+            EXPECT_EQ(enLista, EsCartaLegal(4, pos)) << "position " << pos;
+        }
         for (int pos = 1; pos <= n; ++pos) {
             PosicionCarta(4, pos, n);
             const int x = CartaX + 3, y = CartaY + 40;
