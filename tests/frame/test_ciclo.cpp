@@ -1,5 +1,6 @@
 // The cycle of matches and hands, played headless: the test sits in the person's chair.
 #include <gtest/gtest.h>
+#include <vector>
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -98,9 +99,11 @@ TEST(Ciclo, APostponedMatchResumesAtTheHandUnderWay) {
         PausasACero = true;
         TurnoSalida = 1;
         int manoAlGuardar = 0;
+        std::vector<int> ganadosAlGuardar;
         JuegaConGuion([&](int) {
             if (NumeroMano == guardadaEn && manoAlGuardar == 0) {
                 manoAlGuardar = JugadorMano;
+                ganadosAlGuardar.assign(JuegosGanados, JuegosGanados + 5);
                 RespuestasGuionadas.push_back(true); // yes, postpone
                 PulsaBoton(8);
             }
@@ -120,19 +123,28 @@ TEST(Ciclo, APostponedMatchResumesAtTheHandUnderWay) {
         EXPECT_EQ(linea1.mid(110, 1).toInt(), esperado);
         fichero.close();
 
-        // Next start: the same hand number, led by the same seat.
+        // Next start: the same hand number, led by the same seat, with the hands won so far.
         ReiniciaEstado();
+        for (int& g : JuegosGanados) g = 0;
         JuegoActual = juego;
         int manoReanudada = 0, leader = 0;
+        std::vector<int> ganadosReanudada;
         JuegaConGuion([&](int) {
             manoReanudada = NumeroMano;
             leader = JugadorMano;
+            ganadosReanudada.assign(JuegosGanados, JuegosGanados + 5);
             PartidaViva = false;
         });
         AbreJuego();
         EXPECT_TRUE(Visto("Continuar la partida anterior"));
         EXPECT_EQ(manoReanudada, guardadaEn);
         EXPECT_EQ(leader, manoAlGuardar);
+        EXPECT_EQ(ganadosReanudada, ganadosAlGuardar);
+        if (guardadaEn == 3) {
+            int ganados = 0;
+            for (int g : ganadosAlGuardar) ganados += g;
+            EXPECT_EQ(ganados, 2) << "two hands were over";
+        }
         PausasACero = false;
     }
 }
