@@ -72,14 +72,12 @@ void PreparaSimulacion() {
 void JuegaCarta(int seat, int pos) {
     auto& carta = CartasJugador[seat][SERIE][pos];
     const int palo = carta[CAMPO_PALO], valor = carta[CAMPO_VALOR];
-    const int cara = carta[CAMPO_CARA];
     carta[CAMPO_CARA] = CARA_VISIBLE;
     DibujaJugador(seat);
     RefrescaMesa();
     Pausa(500);
     PosicionCarta(seat, pos, NumCartas[seat][SERIE]);
     const int x = CartaX, y = CartaY;
-    (void)cara;
     PonCartaEnBaza(seat, pos);
     DibujaJugador(seat);
     MueveCarta(palo, valor, x, y, OrientacionSeat[seat], CARA_VISIBLE, CartaCentroX[seat],
