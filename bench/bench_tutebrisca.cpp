@@ -1,76 +1,17 @@
-// Figures of Tute and Brisca: automatic hands per second at the top speed, drawn on a table
-// without a window, and the worst time of the end-game search for each game and seat count.
-#include <QApplication>
+// Figures of Tute and Brisca: automatic hands per second, and the worst time of the end-game
+// search for each game and seat count.
 #include <QElapsedTimer>
-#include <QFile>
-#include <QTemporaryDir>
 #include <cstdio>
 
+#include "bench/Secciones.h"
 #include "frame/Baraja.h"
 #include "frame/Ciclo.h"
 #include "frame/TrufalBas.h"
 #include "frame/TrufalGbl.h"
 #include "games/tutebrisca/Reglas.h"
 #include "games/tutebrisca/Simulacion.h"
-#include "table/Botonera.h"
-#include "table/Dibujo.h"
-#include "table/Mensajes.h"
 
 namespace {
-
-void PreparaMesaSinVentana(const QString& carpeta) {
-    // The decks are read from the working folder, as at the table.
-    for (const char* hoja : {"Baraja01.jpg", "Baraja02.jpg"})
-        QFile::copy(QStringLiteral(TRUFAL_SOURCE_DIR "/assets/") + hoja, carpeta + "/" + hoja);
-    CarpetaTrabajo = carpeta + "/";
-    CarpetaPrograma = QStringLiteral(TRUFAL_SOURCE_DIR "/assets/");
-    AnchoVentana = 1024;
-    AltoVentana = 768;
-    PreparaMesa();
-    PreparaBotonera();
-    MensajesGuionados = true;
-    FinPrograma = [] { PartidaViva = false; };
-}
-
-void SeatsAutomaticos(int jugadores) {
-    NumJugadores = jugadores;
-    for (int s = 1; s <= 4; ++s) {
-        NombreJugador[s] = QStringLiteral("Jugador%1").arg(s);
-        EstadoJugador[s] = s <= jugadores ? ESTADO_ACTIVADO : ESTADO_DESACTIVADO;
-        ControlJugador[s] = CONTROL_AUTOMATICO;
-        CartasVisibles[s] = CARA_OCULTA;
-        NivelJugador[s] = 100;
-        CaracterJugador[s] = 2;
-    }
-}
-
-// Automatic matches of the game until that many hands have been played; hands per second.
-double ManosPorSegundo(int juego, int jugadores, int manos) {
-    JuegoActual = juego;
-    SeatsAutomaticos(jugadores);
-    ParametrosJuego();
-    CargaBaraja();
-    ColocaMazo();
-    ColocaTriunfo();
-    VelocidadJuego = 100;
-    PausasACero = true;
-    ContinuarManual = false;
-    TurnoSalida = 1;
-    ModoReparto = 1;
-    ModalidadPareja = 1;
-    LimitePartida = 5;
-    int jugadas = 0;
-    PersonaGuionada = [] { EsperandoPersona = false; };
-    QElapsedTimer reloj;
-    reloj.start();
-    while (jugadas < manos) {
-        NuevaPartida();
-        jugadas += NumeroMano;
-        RespuestasGuionadas.clear();
-        MensajesVistos.clear();
-    }
-    return jugadas / (reloj.nsecsElapsed() / 1e9);
-}
 
 void DaMano(int seat, const int (*cartas)[2], int n) {
     for (int p = 1; p <= n; ++p) {
@@ -83,9 +24,7 @@ void DaMano(int seat, const int (*cartas)[2], int n) {
 // The longest search the table allows: the most cards in hand with an empty stock, and each
 // seat holding a suit of its own, so that no seat is ever bound and every line is legal.
 double PeorSimulacion(int juego, int jugadores, int cartas, int repeticiones) {
-    JuegoActual = juego;
-    SeatsAutomaticos(jugadores);
-    ParametrosJuego();
+    PreparaPartidaAutomatica({juego, jugadores, false, nullptr});
     CartasEnMazo = 0;
     PaloTriunfo = 1;
     JugadorSalida = 1;
@@ -108,12 +47,7 @@ double PeorSimulacion(int juego, int jugadores, int cartas, int repeticiones) {
 
 } // namespace
 
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    QTemporaryDir carpeta;
-    PreparaMesaSinVentana(carpeta.path());
-
+void BenchTuteBrisca() {
     std::printf("Búsqueda del final (SimulaFinal), peor caso, ms por búsqueda:\n");
     const struct {
         int juego, jugadores, cartas;
@@ -125,14 +59,13 @@ int main(int argc, char** argv) {
         std::printf("  %-6s %d jugadores, %d cartas: %10.3f ms\n", c.nombre, c.jugadores, c.cartas,
                     PeorSimulacion(c.juego, c.jugadores, c.cartas, 5));
 
-    const int manos = argc > 1 ? std::atoi(argv[1]) : 40;
-    std::printf("Manos automáticas por segundo (pausas a cero, mesa sin ventana):\n");
+    std::printf("Manos automáticas por segundo (pausas a cero, sin vuelos, mesa sin ventana):\n");
     for (int jugadores = 2; jugadores <= 4; ++jugadores) {
-        std::printf("  Tute   %d jugadores: %8.1f\n", jugadores,
-                    ManosPorSegundo(JUEGO_TUTE, jugadores, manos));
-        std::printf("  Brisca %d jugadores: %8.1f\n", jugadores,
-                    ManosPorSegundo(JUEGO_BRISCA, jugadores, manos));
+        std::printf(
+            "  Tute   %d jugadores: %8.1f\n", jugadores,
+            ManosPorSegundo({JUEGO_TUTE, jugadores, false, [] { LimitePartida = 5; }}, 400));
+        std::printf(
+            "  Brisca %d jugadores: %8.1f\n", jugadores,
+            ManosPorSegundo({JUEGO_BRISCA, jugadores, false, [] { LimitePartida = 5; }}, 2000));
     }
-    PersonaGuionada = nullptr;
-    return 0;
 }

@@ -121,7 +121,7 @@ void NuevaPartida() {
     FichasActivas = false;
     TuteCantado = false;
     GanadorBaza = 0; // nobody took a trick before the first hand: no exchange in its first trick
-    Randomiza();
+    SiembraPartida();
     if (JuegoActual != JUEGO_BLACKJACK && TurnoSalida == 1) SorteoInicial();
     if (!PartidaViva) return;
     for (int s = 0; s <= 4; ++s) JuegosGanados[s] = 0;

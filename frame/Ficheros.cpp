@@ -330,6 +330,8 @@ void BorraRegistroManos() {
     for (RegistroMano& registro : RegistroManos) registro = RegistroMano();
 }
 
+} // namespace
+
 void PonJuegoPorDefecto() {
     for (int s = 1; s <= 4; ++s) {
         NombreJugador[s] = "Jugador" + QString::number(s);
@@ -366,6 +368,8 @@ void PonJuegoPorDefecto() {
     }
     BorraRegistroManos();
 }
+
+namespace {
 
 void LeeLinea1(const QString& linea) {
     for (int s = 1; s <= 4; ++s) {

@@ -6,6 +6,8 @@
 void LeeConfiguracion();
 void GrabaConfiguracion();
 void LeeJuego();
+// The factory settings of a game: seats and rules as a fresh install has them, no match open.
+void PonJuegoPorDefecto();
 void GrabaJuego();
 QString NombreFicheroJuego(int juego); // "TRF5332.INI" for Tute
 

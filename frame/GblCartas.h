@@ -48,7 +48,9 @@ inline bool SerieCerrada[5][5] = {};
 
 // ---- Tables of the trick games, erased at each hand ----
 inline int GanadorDeBaza[41] = {};
-inline int HistoriaBazas[41][5][5] = {}; // [trick][seat][1 suit, 2 value, 3 won, 4 suit sung]
+// [trick][seat][field]: the card the seat laid, whether it took the trick, the suit it sang.
+constexpr int HB_PALO = 1, HB_VALOR = 2, HB_GANADA = 3, HB_CANTE = 4;
+inline int HistoriaBazas[41][5][5] = {};
 inline int TantosDeBaza[41] = {};
 inline int CartaVista[6][14] = {};   // [suit][value]: seat that played it, 0 unplayed
 inline bool AcuseCantado[5][5] = {}; // [seat][suit]

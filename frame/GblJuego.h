@@ -1,6 +1,8 @@
 // The match and the hand in progress, the flags of the waits, the scoring and the hand records.
 #pragma once
 
+#include "frame/Fases.h"
+
 #include <QString>
 
 // Game codes held in JuegoActual.
@@ -38,7 +40,8 @@ inline bool ObligacionActiva = false;
 inline bool TuteCantado = false;
 inline bool OrdagoEnJuego = false; // Mus: an órdago was accepted and the hand is shown
 
-// The cards a chooser leaves for a turn, in the order it works with: [1] key, [2] position.
+// The cards a chooser leaves for a turn, in the order it works with.
+constexpr int CAND_CLAVE = 1, CAND_POSICION = 2;
 inline int Candidatas[27][3] = {};
 inline int NumCandidatas = 0;
 

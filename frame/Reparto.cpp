@@ -136,15 +136,14 @@ void ColocaAlAzar(int palo, int valor, int base, int cuenta) {
 }
 
 void BarajaMazo() {
-    Sonido(SONIDO_SINCRONO, 20);
+    Sonido(SONIDO_SINCRONO, SONIDO_BARAJA);
     Pausa(400);
     CartasEnMazo = CartasBaraja;
     CartasEnPozo = 0;
     PosicionMazo = 1;
     if (!EsBlackJack()) DibujaMazo(MazoX, MazoY, CartasEnMazo);
-    // The generator was seeded when the match began; seeding it again here from the clock would
-    // add nothing, and would make a scripted deal impossible to repeat.
     std::memset(Baraja, 0, sizeof Baraja);
+    Randomiza();
     // Each card takes a random empty place: rejection is the whole method, with no swaps.
     for (int palo = 1; palo <= 4; ++palo)
         for (int valor = 1; valor <= CartasPorPalo; ++valor) {

@@ -226,10 +226,10 @@ void PulsaMiniatura(int id, bool conControl) {
         }
         MiniaturaElegida[id] = !MiniaturaElegida[id];
         DibujaPanelReparto();
-        Sonido(SONIDO_ASINCRONO, 6);
+        Sonido(SONIDO_ASINCRONO, SONIDO_SELECCION);
         return;
     }
-    Sonido(SONIDO_ASINCRONO, 24);
+    Sonido(SONIDO_ASINCRONO, SONIDO_CARTA_SALE);
     if (!MiniaturaElegida[id]) {
         BorraSeleccion();
         MiniaturaElegida[id] = true;
@@ -280,7 +280,7 @@ void ColocaSeleccion(int seat) {
         MiniaturaLibre[id] = false;
     }
     SeatUltimoReparto = seat;
-    Sonido(SONIDO_ASINCRONO, 25);
+    Sonido(SONIDO_ASINCRONO, SONIDO_CARTA_LLEGA);
     TerminaArrastre();
     DibujaJugador(seat);
     DibujaPanelReparto();
@@ -289,7 +289,7 @@ void ColocaSeleccion(int seat) {
 void SueltaSeleccion() {
     TerminaArrastre();
     DibujaPanelReparto();
-    Sonido(SONIDO_ASINCRONO, 25);
+    Sonido(SONIDO_ASINCRONO, SONIDO_CARTA_LLEGA);
 }
 
 void DevuelveCarta(int seat, int posicion) {
@@ -300,9 +300,9 @@ void DevuelveCarta(int seat, int posicion) {
     for (int f = 1; f <= 5; ++f) carta[f] = 0;
     --NumCartas[seat][1];
     CompactaMano(seat);
-    Sonido(SONIDO_ASINCRONO, 24);
+    Sonido(SONIDO_ASINCRONO, SONIDO_CARTA_SALE);
     DibujaPanelReparto();
-    Sonido(SONIDO_ASINCRONO, 25);
+    Sonido(SONIDO_ASINCRONO, SONIDO_CARTA_LLEGA);
 }
 
 void ReparteRestantesAlAzar() {

@@ -3,6 +3,8 @@
 #include "frame/TrufalGbl.h"
 
 #include <QDateTime>
+#include <chrono>
+#include <cstdint>
 #include <QRegularExpression>
 #include <cmath>
 #include <random>
@@ -131,7 +133,22 @@ double Rnd() {
 }
 
 void Randomiza() {
-    RandomizaCon(static_cast<unsigned>(QDateTime::currentMSecsSinceEpoch() & 0xFFFFFFFFu));
+    if (SemillaFija != 0) return; // a replayed match keeps the one stream it began with
+    // The clock in nanoseconds, mixed with the stream as it stands: two shuffles within the same
+    // tick still differ.
+    const auto reloj =
+        static_cast<std::uint64_t>(std::chrono::steady_clock::now().time_since_epoch().count());
+    const std::uint64_t mezcla = reloj ^ (static_cast<std::uint64_t>(Generador()()) << 32) ^
+                                 static_cast<std::uint64_t>(QDateTime::currentMSecsSinceEpoch());
+    std::seed_seq semillas{static_cast<unsigned>(mezcla), static_cast<unsigned>(mezcla >> 32)};
+    Generador().seed(semillas);
+}
+
+void SiembraPartida() {
+    if (SemillaFija != 0)
+        RandomizaCon(SemillaFija);
+    else
+        Randomiza();
 }
 
 void RandomizaCon(unsigned semilla) {

@@ -33,10 +33,14 @@ QString LeeColumna(const QString& linea, int columna, int ancho);
 // Val: the numeric prefix of a text, blanks skipped; "" and "x" read 0, "12ab" reads 12.
 double Val(const QString& texto);
 
-// The random source: uniform in [0, 1). Seeded from the clock by Randomiza(), or with a fixed
-// seed for reproducible tests.
+// The random source: uniform in [0, 1). In play it is seeded again from the clock at each match
+// and each shuffle. Tests and the benchmark set SemillaFija: every match then starts from that
+// seed and reseeds nothing, so the same seed replays the same match, deal by deal and choice by
+// choice.
+inline unsigned SemillaFija = 0;
 double Rnd();
-void Randomiza();
+void Randomiza();      // from the clock, unless SemillaFija
+void SiembraPartida(); // at the start of a match: SemillaFija, or the clock
 void RandomizaCon(unsigned semilla);
 
 // Walk to the next (or previous) active seat, by the step of the play's direction. In Chinchon

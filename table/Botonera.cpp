@@ -96,16 +96,16 @@ void CalculaLineas() {
     };
     switch (JuegoActual) {
     case JUEGO_POKER:
-        if (FaseJuego == 3 || FaseJuego == 5)
+        if (FaseJuego == FASE_POKER_APUESTA1 || FaseJuego == FASE_POKER_APUESTA2)
             pon("Apuesta");
-        else if (FaseJuego == 4)
+        else if (FaseJuego == FASE_POKER_DESCARTE)
             pon("Descarta");
         break;
     case JUEGO_BLACKJACK:
     case JUEGO_SIETEYMEDIA:
-        if (FaseJuego == 2)
+        if (FaseJuego == FASE_BJ_APUESTA)
             pon("Apuesta", SerieEntre());
-        else if (FaseJuego == 4)
+        else if (FaseJuego == FASE_BJ_JUEGO)
             pon("Juega", SerieEntre());
         break;
     case JUEGO_TUTE:
@@ -115,21 +115,21 @@ void CalculaLineas() {
         pon("Juega");
         break;
     case JUEGO_CHINCHON:
-        if (FaseJuego == 1)
+        if (FaseJuego == FASE_CHINCHON_TOMA)
             pon("Toma carta");
-        else if (FaseJuego == 2 || FaseJuego == 4)
+        else if (FaseJuego == FASE_CHINCHON_DESCARTE || FaseJuego == FASE_CHINCHON_CIERRE)
             pon("Descarta");
-        else if (FaseJuego == 3)
+        else if (FaseJuego == FASE_CHINCHON_DECIDE)
             pon("Decide");
         break;
     case JUEGO_MUS:
-        if (FaseJuego == 1)
+        if (FaseJuego == FASE_MUS_MUS)
             pon("Decide");
-        else if (FaseJuego == 4)
+        else if (FaseJuego == FASE_MUS_DESCARTE)
             pon("Descarta");
-        else if (FaseJuego == 5)
+        else if (FaseJuego == FASE_MUS_ENVITE)
             pon("Envida");
-        else if (FaseJuego == 6) {
+        else if (FaseJuego == FASE_MUS_RESUELVE) {
             LineaUno = OrdagoEnJuego ? "Resolver" : "Mostrar";
             LineaDos = OrdagoEnJuego ? "órdago" : "cartas";
         }
@@ -231,12 +231,12 @@ bool BotonRechazado(int indice) {
 
 void PulsaBoton(int indice) {
     if (BotonRechazado(indice)) {
-        PonCursor(12);
+        PonCursor(CURSOR_PROHIBIDO);
         return;
     }
     if (!EligiendoOpcion) Pic_SelOpciones.Visible = false;
     OrdenManual = false;
-    if (indice != 4) Sonido(SONIDO_ASINCRONO, 9);
+    if (indice != 4) Sonido(SONIDO_ASINCRONO, SONIDO_BOTON);
     switch (indice) {
     case 1:
         PulsaComenzar();
@@ -261,7 +261,7 @@ void PulsaBoton(int indice) {
 void PulsaContinuar() {
     if (!EsperandoPersona) return;
     if (!EligiendoOpcion) Pic_SelOpciones.Visible = false;
-    Sonido(SONIDO_ASINCRONO, 9);
+    Sonido(SONIDO_ASINCRONO, SONIDO_BOTON);
     DibujaContinuar(true);
     Pausa(420);
     EsperandoPersona = false;

@@ -161,7 +161,7 @@ void SenalaCarta(int seat, int posicion, int veces) {
     const int antes = estado;
     for (int vuelta = 1; vuelta <= veces; ++vuelta) {
         Pausa(180);
-        SuenaMesa(SONIDO_ASINCRONO, 26);
+        SuenaMesa(SONIDO_ASINCRONO, SONIDO_CARTA_SUBE);
         estado = 1;
         DibujaJugador(seat);
         RefrescaMesa();

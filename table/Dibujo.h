@@ -26,7 +26,7 @@ void ReversosReducidos();
 
 void BorraZona(int x, int y, int ancho, int alto);
 void BorraCarta(int x, int y);
-void BorraVentana();  // the whole table in its colour, the bar left as it is
+void BorraVentana(); // the whole table in its colour, the bar left as it is
 // One card: face 1 its back, 2 its face; partial 1 the half-covered card.
 void DibujaCarta(QImage& destino, int x, int y, int orientacion, int palo, int valor, int cara,
                  int parcial = 0);
@@ -55,7 +55,7 @@ void RotuloMesa(const QString& texto);
 // The lines of the banner: one, or two when the text is wider than the banner allows, broken at
 // the first blank from the middle character on.
 QStringList LineasRotulo(const QString& texto);
-int RotuloMesaY();  // top of the banner: lower, below the stock, where the stock is in the middle
+int RotuloMesaY(); // top of the banner: lower, below the stock, where the stock is in the middle
 // Blinks the icon of the hand's winner (and its partner's in pairs); the caller has played
 // sound 14.
 void SenalaGanador(int seat);
@@ -65,6 +65,10 @@ void OcultaTantos();
 // one pixel for each two chips up to 5. Drawing and the pointer's test use the same.
 int DesplazaMontonX(int cuenta);
 int DesplazaMontonY(int seat, int cuenta);
+
+// Automatic matches of the tests and the benchmark: cards and chips land at once instead of
+// crossing the table step by step. What the table shows after each move is the same.
+inline bool VuelosOmitidos = false;
 
 // Headless checks: when set, the drawing tells here each sound it plays and each step of a
 // flight it shows, so a test can follow an animation without a window.

@@ -139,7 +139,7 @@ void MarcaPaso(int seat) {
     for (int vuelta = 1; vuelta <= 2; ++vuelta) {
         DibujaMarcaPaso(seat);
         RefrescaMesa();
-        SuenaMesa(SONIDO_SINCRONO, 11);
+        SuenaMesa(SONIDO_SINCRONO, SONIDO_PASO);
         Pausa(420);
         BorraPila(seat + 10);
         RefrescaMesa();

@@ -3,10 +3,11 @@
 #pragma once
 
 #include "platform/CajaImagen.h"
+#include "table/Ids.h"
 
 #include <QString>
 
-constexpr unsigned COLOR_MESA = 0x008000;  // the green of the table
+constexpr unsigned COLOR_MESA = 0x008000; // the green of the table
 constexpr int ANCHO_CARTA = 101, ALTO_CARTA = 141;
 constexpr int ANCHO_BOTONERA = 90;
 
@@ -32,7 +33,7 @@ inline int PasoX = 0, PasoY = 0;
 inline int PiedraMontonX[26] = {}, PiedraMontonY[26] = {};
 
 // ---- Picture boxes ----
-inline CajaImagen Pic_Mesa;  // the window's own surface: the table as it stands
+inline CajaImagen Pic_Mesa; // the window's own surface: the table as it stands
 inline CajaImagen Pic_Baraja[5], Pic_Comodin[5];
 inline CajaImagen Pic_BarReversos[3], Pic_ReversoRedu[3];
 inline CajaImagen Pic_FichasApu[5];
@@ -56,5 +57,5 @@ inline int JugadorBajoPuntero = 0;
 inline int JugadorBajoCarta = 0, CartaBajoPuntero = 0;
 
 // ---- Pointer ----
-inline int CursorActual = 0;  // the pointer shape in force, 0 the plain arrow
+inline int CursorActual = 0; // the pointer shape in force, 0 the plain arrow
 inline int ZonaCursor = 0;

@@ -67,7 +67,7 @@ void DibujaCartas(int seat) {
     const QRect limpia = zona.united(filaAnterior[seat]);
     BorraZona(limpia.x(), limpia.y(), limpia.width(), limpia.height());
     filaAnterior[seat] = ExtensionFila(seat);
-    if (PintaCartasSeat(Pic_Mesa.Imagen, seat)) SuenaMesa(SONIDO_ASINCRONO, 26);
+    if (PintaCartasSeat(Pic_Mesa.Imagen, seat)) SuenaMesa(SONIDO_ASINCRONO, SONIDO_CARTA_SUBE);
 }
 
 void EscribeFraseDelSeat(int seat) {
@@ -85,7 +85,7 @@ void EscribeFraseDelSeat(int seat) {
         RefrescaMesa();
         Pausa(150);
         EscribeFrase(seat, 2);
-        if (TutorEnCurso) SuenaMesa(SONIDO_ASINCRONO, 12);
+        if (TutorEnCurso) SuenaMesa(SONIDO_ASINCRONO, SONIDO_TUTOR);
         RefrescaMesa();
         Pausa(600);
         frase.clear();

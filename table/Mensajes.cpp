@@ -125,7 +125,7 @@ class VentanaMensajes : public QDialog {
     }
 
     void Acciona(int accion) {
-        Sonido(SONIDO_ASINCRONO, 9);
+        Sonido(SONIDO_ASINCRONO, SONIDO_BOTON);
         if (accion == 0) {
             AbreAyuda(Ayuda);
             return;

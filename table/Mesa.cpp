@@ -163,9 +163,9 @@ void PonCursor(int forma) {
     CursorActual = forma;
     if (!LaMesa) return;
     // Below 20 the standard pointers of the desktop; 12 is "no drop".
-    if (forma == 12)
+    if (forma == CURSOR_PROHIBIDO)
         LaMesa->setCursor(Qt::ForbiddenCursor);
-    else if (forma == 11)
+    else if (forma == CURSOR_RELOJ)
         LaMesa->setCursor(Qt::WaitCursor);
     else if (forma > 20)
         LaMesa->setCursor(CursorPropio(forma));

@@ -120,7 +120,7 @@ void SueltaPopup(int, int y) {
     if (linea < 1 || linea > int(lineas.size())) return;
     const int entrada = lineas[linea - 1];
     if (EligiendoOpcion && !OpcionHabilitada[entrada]) return; // a grey line is refused
-    Sonido(SONIDO_ASINCRONO, 9);
+    Sonido(SONIDO_ASINCRONO, SONIDO_BOTON);
     switch (entrada) {
     case OPCION_ORDEN_MANUAL:
         OrdenManual = !OrdenManual;

@@ -69,22 +69,22 @@ bool SkinDeLamina(QImage& imagen, bool pulsado) {
 } // namespace
 
 void IniciaEtiquetas() {
-    EtiquetaControl[81] = "Carta";
-    EtiquetaControl[82] = "Servido";
-    EtiquetaControl[83] = "◀";
-    EtiquetaControl[84] = "▶";
-    EtiquetaControl[85] = "Doblar";
-    EtiquetaControl[86] = "Seguro";
-    EtiquetaControl[87] = "Resto de cartas al azar";
-    EtiquetaControl[88] = "Descarto";
-    EtiquetaControl[95] = "Pumba";
-    EtiquetaControl[96] = "Cerrar";
-    EtiquetaControl[97] = "Seguir";
-    EtiquetaControl[98] = "Mus";
-    EtiquetaControl[99] = "No mus";
-    EtiquetaControl[100] = "Si hay";
-    EtiquetaControl[101] = "No hay";
-    EtiquetaControl[102] = FaseJuego == 5 ? "Mando envidar" : "Mando cortar";
+    EtiquetaControl[PULSADOR_CARTA] = "Carta";
+    EtiquetaControl[PULSADOR_SERVIDO] = "Servido";
+    EtiquetaControl[PULSADOR_SERIE_ANTERIOR] = "◀";
+    EtiquetaControl[PULSADOR_SERIE_SIGUIENTE] = "▶";
+    EtiquetaControl[PULSADOR_DOBLAR] = "Doblar";
+    EtiquetaControl[PULSADOR_SEGURO] = "Seguro";
+    EtiquetaControl[PULSADOR_AZAR] = "Resto de cartas al azar";
+    EtiquetaControl[PULSADOR_DESCARTO] = "Descarto";
+    EtiquetaControl[PULSADOR_PUMBA] = "Pumba";
+    EtiquetaControl[PULSADOR_CERRAR] = "Cerrar";
+    EtiquetaControl[PULSADOR_SEGUIR] = "Seguir";
+    EtiquetaControl[PULSADOR_MUS] = "Mus";
+    EtiquetaControl[PULSADOR_NO_MUS] = "No mus";
+    EtiquetaControl[PULSADOR_SI_HAY] = "Si hay";
+    EtiquetaControl[PULSADOR_NO_HAY] = "No hay";
+    EtiquetaControl[PULSADOR_MANDO] = FaseJuego == 5 ? "Mando envidar" : "Mando cortar";
 }
 
 void DecidePulsadores(int seat, bool quiere[103]) {
@@ -95,30 +95,34 @@ void DecidePulsadores(int seat, bool quiere[103]) {
         const bool ultima = SerieActual == NumSeries;
         const bool banca = seat == JugadorBanca && JugadoresMano >= 2;
         if (FaseJuego == 4 && ultima && !SerieCerrada[seat][SerieActual] && !banca) {
-            quiere[81] = quiere[82] = true;
+            quiere[PULSADOR_CARTA] = quiere[PULSADOR_SERVIDO] = true;
             const auto& primera = CartasJugador[seat][SerieActual][1];
-            if (SerieActual > 1 && primera[CAMPO_VALOR] == 1 && PuedeAbrir) quiere[81] = false;
+            if (SerieActual > 1 && primera[CAMPO_VALOR] == 1 && PuedeAbrir)
+                quiere[PULSADOR_CARTA] = false;
         }
         if (SeriesJugador[seat] >= 2) {
-            quiere[83] = SerieActual > 1;
-            quiere[84] = SerieActual < SeriesJugador[seat];
+            quiere[PULSADOR_SERIE_ANTERIOR] = SerieActual > 1;
+            quiere[PULSADOR_SERIE_SIGUIENTE] = SerieActual < SeriesJugador[seat];
         }
         if (JuegoActual == JUEGO_BLACKJACK && ultima) {
-            quiere[85] = PuedeDoblar;
-            quiere[86] = PuedeAsegurar;
-            if (quiere[85] || quiere[86]) quiere[83] = quiere[84] = false;
+            quiere[PULSADOR_DOBLAR] = PuedeDoblar;
+            quiere[PULSADOR_SEGURO] = PuedeAsegurar;
+            if (quiere[PULSADOR_DOBLAR] || quiere[PULSADOR_SEGURO])
+                quiere[PULSADOR_SERIE_ANTERIOR] = quiere[PULSADOR_SERIE_SIGUIENTE] = false;
         }
     }
     const bool eligiendo = EsperandoPersona && FaseJuego == 4 && !TutorEnCurso;
     if (JuegoActual == JUEGO_POKER && eligiendo) {
-        quiere[82] = !HayCartaElegida(seat);
-        quiere[88] = HayCartaElegida(seat);
+        quiere[PULSADOR_SERVIDO] = !HayCartaElegida(seat);
+        quiere[PULSADOR_DESCARTO] = HayCartaElegida(seat);
     }
-    if (JuegoActual == JUEGO_MUS && eligiendo) quiere[88] = HayCartaElegida(seat);
+    if (JuegoActual == JUEGO_MUS && eligiendo) quiere[PULSADOR_DESCARTO] = HayCartaElegida(seat);
     if (JuegoActual == JUEGO_CHINCHON && FaseJuego == 3 && ManoViva && PuedeCerrar)
-        quiere[96] = quiere[97] = true;
-    if (JuegoActual == JUEGO_MUS && FaseJuego == 1 && ManoViva) quiere[98] = quiere[99] = true;
-    if (!FraseJugador[seat][SerieActual].isEmpty()) quiere[85] = quiere[86] = quiere[102] = false;
+        quiere[PULSADOR_CERRAR] = quiere[PULSADOR_SEGUIR] = true;
+    if (JuegoActual == JUEGO_MUS && FaseJuego == 1 && ManoViva)
+        quiere[PULSADOR_MUS] = quiere[PULSADOR_NO_MUS] = true;
+    if (!FraseJugador[seat][SerieActual].isEmpty())
+        quiere[PULSADOR_DOBLAR] = quiere[PULSADOR_SEGURO] = quiere[PULSADOR_MANDO] = false;
 }
 
 void DibujaPulsador(int indice, bool tumbado, bool pulsado) {
@@ -181,7 +185,7 @@ int PulsadorBajo(int x, int y) {
 
 void PulsaPulsador(int indice) {
     OcultaPopup();
-    Sonido(SONIDO_ASINCRONO, 9);
+    Sonido(SONIDO_ASINCRONO, SONIDO_BOTON);
     const bool tumbado = Pic_Pulsador[indice].Alto() > Pic_Pulsador[indice].Ancho();
     DibujaPulsador(indice, tumbado, true);
     RefrescaMesa();

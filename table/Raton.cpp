@@ -122,7 +122,7 @@ void SueltaCartaArrastrada() {
     CompactaMano(seat);
     RehaceCandidatas(seat);
     DibujaJugador(seat);
-    Sonido(SONIDO_ASINCRONO, 25);
+    Sonido(SONIDO_ASINCRONO, SONIDO_CARTA_LLEGA);
     RefrescaMesa();
 }
 
@@ -140,7 +140,7 @@ void PulsaEnRepartoManual(int x, int y, bool control) {
         }
         return;
     }
-    if (CursorActual == 22) {
+    if (CursorActual == CURSOR_JUGABLE) {
         DetectaJdorYCar(x, y);
         if (JugadorBajoCarta > 0 && CartaBajoPuntero > 0) {
             DevuelveCarta(JugadorBajoCarta, CartaBajoPuntero);
@@ -164,7 +164,7 @@ void EligeCartaPersona() {
         EsperandoPersona = false;
     }
     DibujaJugador(JugadorActual);
-    Sonido(SONIDO_ASINCRONO, 24);
+    Sonido(SONIDO_ASINCRONO, SONIDO_CARTA_SALE);
     RefrescaMesa();
 }
 
@@ -281,7 +281,7 @@ bool JugadaPermitida() {
         JuegoActual == JUEGO_CINQUILLO || JuegoActual == JUEGO_PUMBA;
     if (conCandidatas) {
         for (int i = 1; i <= NumCandidatas; ++i)
-            if (Candidatas[i][2] == CartaBajoPuntero) return true;
+            if (Candidatas[i][CAND_POSICION] == CartaBajoPuntero) return true;
         return false;
     }
     return true;
@@ -303,7 +303,7 @@ void RatonPulsado(int x, int y, int boton, bool control) {
     if (const int pulsador = PulsadorBajo(x, y)) return PulsaPulsador(pulsador);
 
     if (AnularReparto) return PulsaEnRepartoManual(x, y, control);
-    if (OrdenManual && CursorActual == 27) {
+    if (OrdenManual && CursorActual == CURSOR_TOMAR) {
         DetectaJdorYCar(x, y);
         if (JugadorBajoCarta == 0) return;
         SeatPopup = JugadorBajoCarta;
@@ -312,20 +312,22 @@ void RatonPulsado(int x, int y, int boton, bool control) {
         ColgaraCarta(SeatPopup, PosicionOrigen);
         MueveCartaArrastrada(x, y);
         DibujaJugador(SeatPopup);
-        Sonido(SONIDO_ASINCRONO, 24);
+        Sonido(SONIDO_ASINCRONO, SONIDO_CARTA_SALE);
         RefrescaMesa();
         return;
     }
-    if (PersonaJugando && CursorActual == 22 && !FichasActivas) return EligeCartaPersona();
-    if (CursorActual == 41 && (JuegoActual == JUEGO_TUTE || JuegoActual == JUEGO_BRISCA)) {
+    if (PersonaJugando && CursorActual == CURSOR_JUGABLE && !FichasActivas)
+        return EligeCartaPersona();
+    if (CursorActual == CURSOR_CAMBIAR &&
+        (JuegoActual == JUEGO_TUTE || JuegoActual == JUEGO_BRISCA)) {
         PideCambio = true;
         EsperandoPersona = false;
         return;
     }
-    if (CursorActual == 21 && EligiendoMano) {
+    if (CursorActual == CURSOR_INDICE && EligiendoMano) {
         DetectaZonaCartas(x, y);
         if (JugadorBajoPuntero > 0 && JuegaMano[JugadorBajoPuntero]) {
-            Sonido(SONIDO_ASINCRONO, 12);
+            Sonido(SONIDO_ASINCRONO, SONIDO_TUTOR);
             EligiendoMano = false;
         }
     }

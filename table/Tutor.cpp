@@ -52,7 +52,7 @@ void SaltaMonton(int monton) {
         BorraZona(x, y - SALTO_MONTON - 14, ancho, alto);
         DibujaMazo(x, y - SALTO_MONTON, cuenta);
         RefrescaMesa();
-        SuenaMesa(SONIDO_ASINCRONO, 12);
+        SuenaMesa(SONIDO_ASINCRONO, SONIDO_TUTOR);
         Pausa(420);
         BorraZona(x, y - SALTO_MONTON - 14, ancho, alto);
         DibujaMazo(x, y, cuenta);
@@ -73,31 +73,31 @@ void MuestraTapada() {
 }
 
 void ConsejoPoker(const ConsejoTutor& c) {
-    if (FaseJuego == 3 || FaseJuego == 5)
+    if (FaseJuego == FASE_POKER_APUESTA1 || FaseJuego == FASE_POKER_APUESTA2)
         DiceFrase(FraseConsejoPoker(c), PARPADEOS_FRASE_POKER);
-    else if (FaseJuego == 4 && !c.Cartas.empty())
+    else if (FaseJuego == FASE_POKER_DESCARTE && !c.Cartas.empty())
         LevantaCartas(c.Cartas);
-    else if (FaseJuego == 4)
-        ParpadeaPulsador(82, VUELTAS_CONSEJO); // "Servido"
+    else if (FaseJuego == FASE_POKER_DESCARTE)
+        ParpadeaPulsador(PULSADOR_SERVIDO, VUELTAS_CONSEJO); // "Servido"
 }
 
 void ConsejoBlackJack(const ConsejoTutor& c) {
-    if (FaseJuego == 2)
+    if (FaseJuego == FASE_BJ_APUESTA)
         DiceFrase(ConCantidad("Apostar ", c.Cantidad), PARPADEOS_FRASE);
-    else if (FaseJuego == 4 && c.Abrir)
+    else if (FaseJuego == FASE_BJ_JUEGO && c.Abrir)
         DiceFrase("Abrir el par", PARPADEOS_FRASE);
-    else if (FaseJuego == 4)
+    else if (FaseJuego == FASE_BJ_JUEGO)
         ParpadeaPulsador(c.Pulsador, VUELTAS_CONSEJO);
 }
 
 void ConsejoSieteYMedia(const ConsejoTutor& c) {
-    if (c.Cambio && (FaseJuego == 2 || FaseJuego == 4))
+    if (c.Cambio && (FaseJuego == FASE_SYM_APUESTA || FaseJuego == FASE_SYM_JUEGO))
         DiceFrase("Cambiar el cuatro", PARPADEOS_FRASE);
-    else if (FaseJuego == 2)
+    else if (FaseJuego == FASE_SYM_APUESTA)
         DiceFrase(ConCantidad("Apostar ", c.Cantidad), PARPADEOS_FRASE);
-    else if (FaseJuego == 4 && c.Abrir)
+    else if (FaseJuego == FASE_SYM_JUEGO && c.Abrir)
         DiceFrase("Abrir la jugada", PARPADEOS_FRASE);
-    else if (FaseJuego == 4) {
+    else if (FaseJuego == FASE_SYM_JUEGO) {
         if (c.Pulsador == 81) MuestraTapada();
         ParpadeaPulsador(c.Pulsador, VUELTAS_CONSEJO);
     }
@@ -105,16 +105,16 @@ void ConsejoSieteYMedia(const ConsejoTutor& c) {
 
 void ConsejoChinchon(const ConsejoTutor& c) {
     switch (FaseJuego) {
-    case 1:
+    case FASE_CHINCHON_TOMA:
         SaltaMonton(c.Monton);
         break;
-    case 2:
+    case FASE_CHINCHON_DESCARTE:
         SenalaCarta(JugadorActual, CartaElegida, VUELTAS_CONSEJO);
         break;
-    case 3:
+    case FASE_CHINCHON_DECIDE:
         ParpadeaPulsador(c.Pulsador, VUELTAS_CONSEJO); // 96 "Cerrar" or 97 "Seguir"
         break;
-    case 4:
+    case FASE_CHINCHON_CIERRE:
         LevantaCartas(c.Cartas);
         break;
     default:
@@ -123,14 +123,14 @@ void ConsejoChinchon(const ConsejoTutor& c) {
 }
 
 void ConsejoMus(const ConsejoTutor& c) {
-    if (FaseJuego == 1) {
+    if (FaseJuego == FASE_MUS_MUS) {
         if (c.MandaSena) DiceFrase("Mandar cortar", PARPADEOS_FRASE);
         ParpadeaPulsador(c.Pulsador, VUELTAS_CONSEJO); // 98 "Mus" or 99 "No mus"
-    } else if (FaseJuego == 4) {
+    } else if (FaseJuego == FASE_MUS_DESCARTE) {
         if (!c.Cartas.empty()) LevantaCartas(c.Cartas);
-    } else if (FaseJuego == 5 && c.RondaDeJuego) {
+    } else if (FaseJuego == FASE_MUS_ENVITE && c.RondaDeJuego) {
         ParpadeaPulsador(c.Pulsador, VUELTAS_CONSEJO); // 100 "Si hay" or 101 "No hay"
-    } else if (FaseJuego == 5) {
+    } else if (FaseJuego == FASE_MUS_ENVITE) {
         DiceFrase(FraseConsejoMus(c), PARPADEOS_FRASE);
     }
 }
@@ -200,7 +200,7 @@ void ParpadeaPulsador(int indice, int veces) {
     for (int vuelta = 1; vuelta <= veces; ++vuelta) {
         DibujaPulsador(indice, tumbado, true);
         RefrescaMesa();
-        SuenaMesa(SONIDO_ASINCRONO, 6);
+        SuenaMesa(SONIDO_ASINCRONO, SONIDO_SELECCION);
         Pausa(360);
         DibujaPulsador(indice, tumbado, false);
         RefrescaMesa();

@@ -18,6 +18,11 @@ constexpr int PAUSA_PASO = 12;
 constexpr int LADO_FICHA = 33;
 constexpr int DENOMINACION_PIEDRA = 7;
 
+// Automatic play in tests and the benchmark: a flight lands at once, with no steps in between.
+bool SinVuelo(int x1, int y1, int x2, int y2) {
+    return VuelosOmitidos || (x1 == x2 && y1 == y2);
+}
+
 void GuardaFondo() {
     Pic_Espejo.Imagen = Pic_Mesa.Imagen.copy();
 }
@@ -75,19 +80,23 @@ void MueveCarta(int palo, int valor, int x1, int y1, int orientacion1, int cara1
     const int ancho = tumbada ? ALTO_CARTA : ANCHO_CARTA;
     const int alto = tumbada ? ANCHO_CARTA : ALTO_CARTA;
     (void)orientacion1;
+    if (SinVuelo(x1, y1, x2, y2)) {
+        DibujaCarta(Pic_Mesa.Imagen, x2, y2, orientacion2, palo, valor, cara2, parcial);
+        RefrescaMesa();
+        SuenaMesa(SONIDO_ASINCRONO, SONIDO_CARTA_LLEGA);
+        return;
+    }
     GuardaFondo();
     int x = x1, y = y1;
-    if (x1 != x2 || y1 != y2) {
-        CalculaPaso(x1, y1, x2, y2, PASO_CARTA);
-        SuenaMesa(SONIDO_ASINCRONO, 24);
-        Vuela(x, y, x2, y2, ancho, alto, [&](int px, int py) {
-            DibujaCarta(Pic_Mesa.Imagen, px, py, orientacion2, palo, valor, cara1);
-        });
-    }
+    CalculaPaso(x1, y1, x2, y2, PASO_CARTA);
+    SuenaMesa(SONIDO_ASINCRONO, SONIDO_CARTA_SALE);
+    Vuela(x, y, x2, y2, ancho, alto, [&](int px, int py) {
+        DibujaCarta(Pic_Mesa.Imagen, px, py, orientacion2, palo, valor, cara1);
+    });
     RestauraFondo(x, y, ancho, alto);
     DibujaCarta(Pic_Mesa.Imagen, x2, y2, orientacion2, palo, valor, cara2, parcial);
     RefrescaMesa();
-    SuenaMesa(SONIDO_ASINCRONO, 25);
+    SuenaMesa(SONIDO_ASINCRONO, SONIDO_CARTA_LLEGA);
 }
 
 void MueveFicha(int denominacion, int x1, int y1, int x2, int y2, int seat, int seatDestino) {
@@ -95,16 +104,20 @@ void MueveFicha(int denominacion, int x1, int y1, int x2, int y2, int seat, int 
     // Chips left at the origin stay in the background under the one that leaves.
     if (FichasEnOrigen(seat, denominacion) > 0)
         DibujaFicha(x1, y1, denominacion, OrientacionFicha(seat, denominacion));
+    if (SinVuelo(x1, y1, x2, y2)) {
+        DibujaFicha(x2, y2, denominacion, OrientacionFicha(seatDestino, denominacion));
+        RefrescaMesa();
+        SuenaMesa(SONIDO_ASINCRONO, SONIDO_FICHA);
+        return;
+    }
     GuardaFondo();
     int x = x1, y = y1;
-    if (x1 != x2 || y1 != y2) {
-        CalculaPaso(x1, y1, x2, y2, PASO_FICHA);
-        const int orientacion = OrientacionFicha(seat, denominacion);
-        Vuela(x, y, x2, y2, LADO_FICHA, LADO_FICHA,
-              [&](int px, int py) { DibujaFicha(px, py, denominacion, orientacion); });
-    }
+    CalculaPaso(x1, y1, x2, y2, PASO_FICHA);
+    const int orientacion = OrientacionFicha(seat, denominacion);
+    Vuela(x, y, x2, y2, LADO_FICHA, LADO_FICHA,
+          [&](int px, int py) { DibujaFicha(px, py, denominacion, orientacion); });
     RestauraFondo(x, y, LADO_FICHA, LADO_FICHA);
     DibujaFicha(x2, y2, denominacion, OrientacionFicha(seatDestino, denominacion));
     RefrescaMesa();
-    SuenaMesa(SONIDO_ASINCRONO, 22);
+    SuenaMesa(SONIDO_ASINCRONO, SONIDO_FICHA);
 }

@@ -3,12 +3,14 @@
 #include <QApplication>
 #include <gtest/gtest.h>
 
+#include "frame/TrufalBas.h"
 #include "table/Mensajes.h"
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
     MensajesGuionados = true;
+    SemillaFija = 20261123; // every test deals the same cards at every run
     ::testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }

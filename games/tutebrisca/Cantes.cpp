@@ -85,7 +85,7 @@ void AnotaAcuse(int seat, int palo) {
     TantosJugador[seat][1] += TantosBaza;
     TantosDeBaza[NumeroBaza] += TantosBaza;
     AcuseCantado[seat][palo] = true;
-    HistoriaBazas[NumeroBaza][seat][4] = palo;
+    HistoriaBazas[NumeroBaza][seat][HB_CANTE] = palo;
 }
 
 int HallaTuteRepartido() {

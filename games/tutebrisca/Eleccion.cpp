@@ -17,7 +17,7 @@ constexpr int MARGEN_PRUDENTE = 4, MARGEN_PRUDENTE_TORPE = 10;
 constexpr int NIVEL_TORPE = 50; // below it the margins widen
 
 int PosicionEntrada(int i) {
-    return Candidatas[i][2];
+    return Candidatas[i][CAND_POSICION];
 }
 
 // The exchange needs cards in the stock: one in Tute, a round of draws in Brisca.
@@ -83,8 +83,8 @@ void OrdenaCandidatas(const int claves[], int n) {
     for (int pos = 1; pos <= n; ++pos) Lis_Ordenar.Agrega(Formato(claves[pos], "0000"), pos);
     for (int i = 1; i <= MAX_CANDIDATAS; ++i) {
         const bool lleno = i <= n;
-        Candidatas[i][1] = lleno ? static_cast<int>(Val(Lis_Ordenar.Texto(i - 1))) : 0;
-        Candidatas[i][2] = lleno ? Lis_Ordenar.Dato(i - 1) : 0;
+        Candidatas[i][CAND_CLAVE] = lleno ? static_cast<int>(Val(Lis_Ordenar.Texto(i - 1))) : 0;
+        Candidatas[i][CAND_POSICION] = lleno ? Lis_Ordenar.Dato(i - 1) : 0;
     }
 }
 

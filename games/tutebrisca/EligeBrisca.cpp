@@ -158,7 +158,7 @@ void EligeBrisca(int seat) {
     CartaSimulada = 0;
     if (SimulacionValida) ConsultaSimulacion();
     p = AplicaError(p, nivel);
-    CartaElegida = Candidatas[p][2];
+    CartaElegida = Candidatas[p][CAND_POSICION];
     FiltraSimulacion(seat);
     if (CartaSimulada != 0) CartaElegida = CartaSimulada;
 }

@@ -282,16 +282,16 @@ int PonLegalesDelante(int seat, bool sale) {
     int copia[MAX_CANDIDATAS + 1][2] = {};
     for (int i = 1; i <= h; ++i) {
         legal[i] = CumpleClase(clase, i);
-        copia[i][0] = Candidatas[i][1];
-        copia[i][1] = Candidatas[i][2];
+        copia[i][0] = Candidatas[i][CAND_CLAVE];
+        copia[i][1] = Candidatas[i][CAND_POSICION];
     }
     int fila = 0;
     for (int vuelta = 1; vuelta <= 2; ++vuelta)
         for (int i = 1; i <= h; ++i) {
             if (legal[i] != (vuelta == 1)) continue;
             ++fila;
-            Candidatas[fila][1] = copia[i][0];
-            Candidatas[fila][2] = copia[i][1];
+            Candidatas[fila][CAND_CLAVE] = copia[i][0];
+            Candidatas[fila][CAND_POSICION] = copia[i][1];
             if (legal[i]) NumCandidatas = fila;
         }
     return clase;
@@ -312,7 +312,8 @@ int ReglasUltimoObligado(int seat, int clase, int p) {
     if (clase == 1) {
         if (nivel < NIVEL_NOVATO) {
             p = NumCandidatas;
-        } else if (nivel < NIVEL_TIMIDO && caracter == 1 && Candidatas[1][1] > DESPLAZA_CLAVE) {
+        } else if (nivel < NIVEL_TIMIDO && caracter == 1 &&
+                   Candidatas[1][CAND_CLAVE] > DESPLAZA_CLAVE) {
             const int q = MayorEntradaQueGana();
             if (q != 0) p = q;
         }
@@ -393,7 +394,7 @@ void EligeTute(int seat) {
     CartaSimulada = 0;
     if (SimulacionValida && !HayAcuse && TuteEnMano == 0) ConsultaSimulacion();
     p = AplicaError(p, nivel);
-    CartaElegida = Candidatas[p][2];
+    CartaElegida = Candidatas[p][CAND_POSICION];
     if (CartaSimulada != 0) CartaElegida = CartaSimulada;
 }
 

@@ -77,7 +77,7 @@ void FinalManoTB() {
     DecideGanadorMano();
     const QString plural = TuteCantado ? PluralTute() : QString();
 
-    SuenaMesa(SONIDO_SINCRONO, 14);
+    SuenaMesa(SONIDO_SINCRONO, SONIDO_GANA_MANO);
     SenalaGanador(GanadorMano);
 
     QString texto = TuteCantado ? "Se ha cantado Tute de " + plural + SaltoLinea : LineasDeTantos();

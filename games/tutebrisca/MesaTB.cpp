@@ -46,7 +46,7 @@ void EnsenaCartas(int seat, const std::vector<int>& posiciones, bool quedanVista
         DibujaJugador(seat);
         RefrescaMesa();
         Pausa(180);
-        SuenaMesa(SONIDO_ASINCRONO, 26);
+        SuenaMesa(SONIDO_ASINCRONO, SONIDO_CARTA_SUBE);
         RefrescaMesa();
         Pausa(420);
         for (size_t i = 0; i < posiciones.size(); ++i) {
@@ -192,7 +192,7 @@ void ParpadeaGanadorBaza() {
         RefrescaMesa();
         Pausa(180);
         DibujaBaza(0);
-        SuenaMesa(SONIDO_ASINCRONO, 26);
+        SuenaMesa(SONIDO_ASINCRONO, SONIDO_CARTA_SUBE);
         RefrescaMesa();
     }
     Pausa(500);

@@ -4,6 +4,7 @@
 #include "games/tutebrisca/Partida.h"
 
 #include "frame/Ciclo.h"
+#include "frame/Coherencia.h"
 #include "frame/TrufalBas.h"
 #include "frame/TrufalGbl.h"
 #include "games/tutebrisca/Eleccion.h"
@@ -32,8 +33,25 @@ void Elige() {
         EligeCartaBrisca();
 }
 
+// Besides the stock and the hands, a card of Tute and Brisca lies turned up under the stock, on
+// the table in the trick under way, or among the tricks already taken.
+void CuentaCartasTB(CuentaCartas& cuenta) {
+    const bool conMazo = JuegoActual == JUEGO_BRISCA || NumJugadores == 2;
+    if (conMazo && MuestraTriunfo && PaloTriunfo != 0) cuenta.Anade(PaloTriunfo, ValorTriunfo);
+    for (int b = 1; b <= NumeroBaza; ++b) {
+        const bool anotada = GanadorDeBaza[b] != 0;
+        for (int s = 1; s <= 4; ++s) {
+            if (anotada)
+                cuenta.Anade(HistoriaBazas[b][s][HB_PALO], HistoriaBazas[b][s][HB_VALOR]);
+            else if (b == NumeroBaza)
+                cuenta.Anade(CartaEnMesa[s][1], CartaEnMesa[s][2]);
+        }
+    }
+}
+
 // The tutor shows the card the computer player would lay for the person.
-const bool TutorRegistrado = [] {
+const bool Registrado = [] {
+    CartasAparte[JUEGO_TUTE] = CartasAparte[JUEGO_BRISCA] = CuentaCartasTB;
     RutinaTutor[JUEGO_TUTE] = [] {
         EligeCartaTute();
         return ConsejoTutor{};
@@ -124,6 +142,7 @@ bool TurnoDeSeat() {
     if (!JugadaHecha) Elige();
     PersonaJugando = false;
     JuegaCarta(JugadorActual, CartaElegida);
+    CompruebaMesa();
     return true;
 }
 
@@ -158,6 +177,7 @@ void CierraBaza() {
     if (EsTute()) CantaAcuses();
     if (TuteCantado) return;
     RobanCartas();
+    CompruebaMesa();
     JugadorSalida = GanadorBaza;
     JugadorActual = GanadorBaza;
     AnteriorJugador(JugadorActual);
@@ -171,6 +191,7 @@ bool JuegaMano() {
     JugadorCante = 0;
     DescubreTriunfo();
     if (!PartidaViva) return false;
+    CompruebaMesa();
     RegistroManos[NumeroMano].Sale = NombreJugador[JugadorMano];
     FaseJuego = 4;
     JugadorSalida = JugadorMano;
@@ -209,11 +230,11 @@ void JuegaPartidaTB() {
 } // namespace
 
 void JuegaTute() {
-    (void)TutorRegistrado;
+    (void)Registrado;
     JuegaPartidaTB();
 }
 
 void JuegaBrisca() {
-    (void)TutorRegistrado;
+    (void)Registrado;
     JuegaPartidaTB();
 }

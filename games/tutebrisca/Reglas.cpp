@@ -161,9 +161,9 @@ void AnotaBaza() {
     for (int s = 1; s <= 4; ++s) {
         const int palo = CartaEnMesa[s][1], valor = CartaEnMesa[s][2];
         if (palo == 0) continue;
-        HistoriaBazas[NumeroBaza][s][1] = palo;
-        HistoriaBazas[NumeroBaza][s][2] = valor;
-        if (s == GanadorBaza) HistoriaBazas[NumeroBaza][s][3] = 1;
+        HistoriaBazas[NumeroBaza][s][HB_PALO] = palo;
+        HistoriaBazas[NumeroBaza][s][HB_VALOR] = valor;
+        if (s == GanadorBaza) HistoriaBazas[NumeroBaza][s][HB_GANADA] = 1;
         CartaVista[palo][valor] = s;
     }
 }
@@ -189,9 +189,10 @@ void ListaCartasLegales(int seat) {
             if (legal != (vuelta == 1)) continue;
             ++fila;
             if (legal) ++legales;
-            Candidatas[fila][1] = FuerzaCarta(PaloEn(seat, p), ValorEn(seat, p));
-            Candidatas[fila][2] = p;
+            Candidatas[fila][CAND_CLAVE] = FuerzaCarta(PaloEn(seat, p), ValorEn(seat, p));
+            Candidatas[fila][CAND_POSICION] = p;
         }
-    for (int i = fila + 1; i < 27; ++i) Candidatas[i][1] = Candidatas[i][2] = 0;
+    for (int i = fila + 1; i < 27; ++i)
+        Candidatas[i][CAND_CLAVE] = Candidatas[i][CAND_POSICION] = 0;
     NumCandidatas = legales;
 }

@@ -232,7 +232,7 @@ void SumaSubarbol(const int ruta[5], int T, long long& ganadas, long long& marge
 // Where the position stands in the chooser's list: the cheaper the card, the earlier.
 int EntradaCandidata(int pos, int H) {
     for (int j = 1; j <= H; ++j)
-        if (Candidatas[j][2] == pos) return j;
+        if (Candidatas[j][CAND_POSICION] == pos) return j;
     return H;
 }
 

@@ -39,7 +39,7 @@ Carta Elige(int seat, const std::vector<Carta>& mano) {
 
 std::set<int> Legales() {
     std::set<int> legales;
-    for (int i = 1; i <= NumCandidatas; ++i) legales.insert(Candidatas[i][2]);
+    for (int i = 1; i <= NumCandidatas; ++i) legales.insert(Candidatas[i][CAND_POSICION]);
     return legales;
 }
 
@@ -165,7 +165,7 @@ TEST_F(TuteBriscaEleccion, TuteEnManoYCantesProtegenSusFiguras) {
                                       {BASTOS, 12}, {COPAS, 4},  {ESPADAS, 1}};
     EXPECT_EQ(Elige(1, reyes), Carta(ESPADAS, 1)) << "entry H - 4, the last non-figure";
     for (int i = 1; i <= 6; ++i) {
-        const int valor = CartasJugador[1][1][Candidatas[i][2]][CAMPO_VALOR];
+        const int valor = CartasJugador[1][1][Candidatas[i][CAND_POSICION]][CAMPO_VALOR];
         EXPECT_EQ(valor == 12, i > 2) << "the figures of the Tute sort last";
     }
 
@@ -214,7 +214,7 @@ TEST_F(TuteBriscaEleccion, LasCandidatasObligadasSonLasCartasLegales) {
         Elige(4, c.mano);
         const std::set<int> elegidas = Legales();
         std::set<int> todas;
-        for (int i = 1; i <= NumCartas[4][1]; ++i) todas.insert(Candidatas[i][2]);
+        for (int i = 1; i <= NumCartas[4][1]; ++i) todas.insert(Candidatas[i][CAND_POSICION]);
         EXPECT_EQ(todas.size(), c.mano.size()) << "every card is listed once";
         EXPECT_TRUE(elegidas.count(CartaElegida));
         ListaCartasLegales(4);
@@ -261,11 +261,11 @@ TEST_F(TuteBriscaEleccion, UnaClaveNegativaVaDelanteDeTodas) {
     DaMano(1, {{COPAS, 4}, {COPAS, 5}, {COPAS, 6}, {COPAS, 7}});
     const int claves[] = {0, 300, -1200, 0, 1500};
     OrdenaCandidatas(claves, 4);
-    EXPECT_EQ(Candidatas[1][2], 2);
-    EXPECT_EQ(Candidatas[1][1], -1200);
-    EXPECT_EQ(Candidatas[2][2], 3);
-    EXPECT_EQ(Candidatas[4][1], 1500);
-    EXPECT_EQ(Candidatas[5][2], 0);
+    EXPECT_EQ(Candidatas[1][CAND_POSICION], 2);
+    EXPECT_EQ(Candidatas[1][CAND_CLAVE], -1200);
+    EXPECT_EQ(Candidatas[2][CAND_POSICION], 3);
+    EXPECT_EQ(Candidatas[4][CAND_CLAVE], 1500);
+    EXPECT_EQ(Candidatas[5][CAND_POSICION], 0);
 }
 
 } // namespace

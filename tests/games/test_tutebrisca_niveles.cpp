@@ -2,6 +2,7 @@
 // Tute and of Brisca, a seat at level 100 takes clearly more than a seat at level 0.
 #include "frame/Baraja.h"
 #include "frame/Ciclo.h"
+#include "frame/TrufalBas.h"
 #include "frame/TrufalGbl.h"
 #include "support/MesaDePrueba.h"
 #include "table/Dibujo.h"
@@ -38,13 +39,16 @@ int GanadasDelNivelCien(int juego, int partidas) {
     LimitePartida = 1;
     PersonaGuionada = [] { EsperandoPersona = false; };
     int ganadas = 0;
+    const unsigned semillaAntes = SemillaFija;
     for (int partida = 0; partida < partidas; ++partida) {
         RespuestasGuionadas.assign(1, false); // no history of these matches
+        SemillaFija = 1000 + partida;         // each match its own deal, the same at every run
         NuevaPartida();
         ganadas += GanadorPartida == 1;
         MensajesVistos.clear();
     }
     PausasACero = false;
+    SemillaFija = semillaAntes;
     return ganadas;
 }
 

@@ -122,14 +122,16 @@ TEST(TuteBriscaPartida, ThePersonLaysOnlyLegalCardsWithTheMouse) {
         RehaceCandidatas(4);
         for (int pos = 1; pos <= n; ++pos) {
             bool enLista = false;
-            for (int i = 1; i <= NumCandidatas; ++i) enLista = enLista || Candidatas[i][2] == pos;
+            for (int i = 1; i <= NumCandidatas; ++i)
+                enLista = enLista || Candidatas[i][CAND_POSICION] == pos;
             EXPECT_EQ(enLista, EsCartaLegal(4, pos)) << "position " << pos;
         }
         for (int pos = 1; pos <= n; ++pos) {
             PosicionCarta(4, pos, n);
             const int x = CartaX + 3, y = CartaY + 40;
             bool legal = false;
-            for (int i = 1; i <= NumCandidatas; ++i) legal = legal || Candidatas[i][2] == pos;
+            for (int i = 1; i <= NumCandidatas; ++i)
+                legal = legal || Candidatas[i][CAND_POSICION] == pos;
             RatonMovido(x, y, false);
             RatonPulsado(x, y, 1, false);
             if (!legal) {
@@ -253,8 +255,8 @@ TEST(TuteBriscaPartida, TheWinnerAndItsPartnerSingAfterTheTrick) {
     EXPECT_EQ(TantosJugador[1][1], 40);
     EXPECT_EQ(TantosJugador[3][1], 20);
     EXPECT_EQ(TantosDeBaza[3], 65);
-    EXPECT_EQ(HistoriaBazas[3][1][4], OROS);
-    EXPECT_EQ(HistoriaBazas[3][3][4], ESPADAS);
+    EXPECT_EQ(HistoriaBazas[3][1][HB_CANTE], OROS);
+    EXPECT_EQ(HistoriaBazas[3][3][HB_CANTE], ESPADAS);
     // The next trick won, copas can be sung; oros can't be sung twice.
     NumeroBaza = 4;
     CantaAcuses();

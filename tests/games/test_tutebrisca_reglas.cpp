@@ -167,14 +167,15 @@ TEST_F(TuteBriscaReglas, CartasLegalesSegunLaObligacion) {
         DaMano(c.seat, c.mano);
         ListaCartasLegales(c.seat);
         std::set<Carta> legales;
-        for (int i = 1; i <= NumCandidatas; ++i) legales.insert(c.mano[Candidatas[i][2] - 1]);
+        for (int i = 1; i <= NumCandidatas; ++i)
+            legales.insert(c.mano[Candidatas[i][CAND_POSICION] - 1]);
         EXPECT_EQ(legales, c.legales);
         for (int p = 1; p <= static_cast<int>(c.mano.size()); ++p)
             EXPECT_EQ(EsCartaLegal(c.seat, p), c.legales.count(c.mano[p - 1]) == 1) << p;
         // The refused cards follow the legal ones, so the whole hand stays listed.
         std::set<int> posiciones;
         for (int i = 1; i <= static_cast<int>(c.mano.size()); ++i)
-            posiciones.insert(Candidatas[i][2]);
+            posiciones.insert(Candidatas[i][CAND_POSICION]);
         EXPECT_EQ(posiciones.size(), c.mano.size());
     }
 }
@@ -220,7 +221,7 @@ double JuegaManoEntera(int cartasPorSeat) {
         for (int k = 0, s = JugadorSalida; k < seats; ++k, s = s % seats + 1) {
             ++CartasEnBaza;
             ListaCartasLegales(s);
-            PonCartaEnBaza(s, Candidatas[1][2]);
+            PonCartaEnBaza(s, Candidatas[1][CAND_POSICION]);
         }
         ResuelveBaza();
         AnotaBaza();
@@ -237,7 +238,7 @@ TEST_F(TuteBriscaReglas, UnaManoEnteraReparteCientoVeinteTantosYDiezDeUltimas) {
     for (int palo = 1; palo <= 4; ++palo)
         for (int v = 1; v <= 12; ++v) vistas += CartaVista[palo][v] != 0;
     for (int b = 1; b <= 10; ++b)
-        for (int s = 1; s <= 4; ++s) ganadas += HistoriaBazas[b][s][3];
+        for (int s = 1; s <= 4; ++s) ganadas += HistoriaBazas[b][s][HB_GANADA];
     EXPECT_EQ(vistas, 40);
     EXPECT_EQ(ganadas, 10);
     EXPECT_EQ(TantosDeBaza[10], TantosBaza);
@@ -347,7 +348,7 @@ TEST_F(TuteBriscaReglas, AcusesDeVeinteYCuarenta) {
         EXPECT_EQ(TantosBaza, c.tantos);
         EXPECT_EQ(TantosJugador[2][1], c.tantos);
         EXPECT_EQ(TantosDeBaza[3], 14 + c.tantos);
-        EXPECT_EQ(HistoriaBazas[3][2][4], c.palo);
+        EXPECT_EQ(HistoriaBazas[3][2][HB_CANTE], c.palo);
         EXPECT_EQ(CantorDe(c.palo), 2);
         EXPECT_EQ(AcusesDe(2), 1);
         // The same suit can't be sung twice.

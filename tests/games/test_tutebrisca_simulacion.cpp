@@ -19,7 +19,7 @@ constexpr int AS = 1, TRES = 3, SOTA = 10, CABALLO = 11, REY = 12;
 // The chooser's list as the search reads it: positions from the card to shed to the card to keep.
 void PonCandidatas(const std::vector<int>& posiciones) {
     int j = 0;
-    for (int p : posiciones) Candidatas[++j][2] = p;
+    for (int p : posiciones) Candidatas[++j][CAND_POSICION] = p;
 }
 
 int Ganadas(int a, int b = 0, int c = 0, int d = 0) {

@@ -1,0 +1,29 @@
+// Automatic matches with no window: every seat is the computer's, pauses end at once and cards
+// land without crossing the table. The benchmark, its signature and the long tests play them.
+#pragma once
+
+#include <QString>
+#include <QtGlobal>
+#include <functional>
+
+// Lays out a table of 1024 by 768 with no window, its files in the folder, messages answered
+// from a script and the person never asked.
+void PreparaMesaAutomatica(const QString& carpeta);
+
+// One kind of automatic match: the game, the seats in play (from seat 1 on), pairs, and the
+// options of the game set by Opciones after the factory ones.
+struct MesaAutomatica {
+    int Juego = 0;
+    int Jugadores = 4;
+    bool Parejas = false;
+    std::function<void()> Opciones;
+};
+
+// Puts the seats and the rules of that match in place: levels 100, 75, 50 and 0 with the three
+// characters in turn, so that every gate of the computer players is crossed.
+void PreparaPartidaAutomatica(const MesaAutomatica& mesa);
+// Plays one whole match from the seed; returns the hands played.
+int JuegaPartidaAutomatica(unsigned semilla);
+// A fingerprint of the match just played: each hand's record, the games won, the money, the
+// stones.
+quint64 HuellaPartida(quint64 huella = 14695981039346656037ull);

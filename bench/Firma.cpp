@@ -1,0 +1,53 @@
+#include "bench/Firma.h"
+
+#include "bench/Automatica.h"
+#include "frame/TrufalGbl.h"
+
+namespace {
+
+constexpr int PARTIDAS_POR_LINEA = 6; // seeds 1 to 6 of each line
+
+// One line for each game and table that the signature plays. A game that comes to the table
+// adds its lines here.
+struct LineaFirma {
+    MesaAutomatica Mesa;
+};
+
+std::vector<LineaFirma> LineasFirma() {
+    return {
+        {{JUEGO_TUTE, 2, false, [] { LimitePartida = 2; }}},
+        {{JUEGO_TUTE, 3, false, [] { LimitePartida = 2; }}},
+        {{JUEGO_TUTE, 4, true, [] { LimitePartida = 2; }}},
+        {{JUEGO_BRISCA, 2, false, [] { LimitePartida = 2; }}},
+        {{JUEGO_BRISCA, 3, false, [] { LimitePartida = 2; }}},
+        {{JUEGO_BRISCA, 4, true, [] { LimitePartida = 2; }}},
+    };
+}
+
+} // namespace
+
+std::vector<FirmaJuego> FirmasDeLosJuegos() {
+    std::vector<FirmaJuego> firmas;
+    for (const LineaFirma& linea : LineasFirma()) {
+        const int juego = linea.Mesa.Juego;
+        if (firmas.empty() || firmas.back().Juego != juego)
+            firmas.push_back({juego, NombreJuego[juego], 14695981039346656037ull, 0});
+        FirmaJuego& firma = firmas.back();
+        for (unsigned semilla = 1; semilla <= PARTIDAS_POR_LINEA; ++semilla) {
+            PreparaPartidaAutomatica(linea.Mesa);
+            firma.Manos += JuegaPartidaAutomatica(semilla);
+            firma.Firma = HuellaPartida(firma.Firma);
+        }
+    }
+    return firmas;
+}
+
+QString TextoFirmas(const std::vector<FirmaJuego>& firmas) {
+    QString texto;
+    for (const FirmaJuego& f : firmas)
+        texto += QStringLiteral("%1 %2 %3\n")
+                     .arg(f.Juego)
+                     .arg(QString(f.Nombre).replace(' ', '_'))
+                     .arg(f.Firma, 16, 16, QLatin1Char('0'));
+    return texto;
+}

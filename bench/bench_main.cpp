@@ -1,0 +1,28 @@
+// The figures of the table: the signature of the games, how many automatic hands each game plays
+// a second, and the costly routines of each game.
+//   trufal_bench              every figure
+//   trufal_bench --firmas     only the signatures, in the form of bench/firmas.txt
+#include <QApplication>
+#include <QTemporaryDir>
+#include <cstdio>
+#include <cstring>
+
+#include "bench/Automatica.h"
+#include "bench/Firma.h"
+#include "bench/Secciones.h"
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    QTemporaryDir carpeta;
+    PreparaMesaAutomatica(carpeta.path());
+    const bool soloFirmas = argc > 1 && std::strcmp(argv[1], "--firmas") == 0;
+    if (!soloFirmas) {
+        BenchTuteBrisca();
+        std::printf("\n");
+    }
+    const auto firmas = FirmasDeLosJuegos();
+    if (!soloFirmas) std::printf("Firmas de los juegos (bench/firmas.txt):\n");
+    std::printf("%s", TextoFirmas(firmas).toUtf8().constData());
+    return 0;
+}

@@ -1,0 +1,68 @@
+// Long runs with the table checked after every move: each card of the deck in exactly one place
+// and, in the games for money, no chip made or lost. A fault stops the run with its reason.
+#include "bench/Automatica.h"
+#include "frame/Coherencia.h"
+#include "frame/TrufalGbl.h"
+#include "support/MesaDePrueba.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr int PARTIDAS = 60;
+
+// Plays the matches with the check on; returns the hands played.
+int JuegaConComprobacion(const MesaAutomatica& tipo, unsigned primeraSemilla) {
+    const bool antes = ComprobarCoherencia;
+    ComprobarCoherencia = true;
+    int manos = 0;
+    for (unsigned semilla = primeraSemilla; semilla < primeraSemilla + PARTIDAS; ++semilla) {
+        PreparaPartidaAutomatica(tipo);
+        manos += JuegaPartidaAutomatica(semilla);
+        QString fallo;
+        EXPECT_TRUE(MesaCoherente(&fallo)) << fallo.toStdString() << " semilla " << semilla;
+    }
+    ComprobarCoherencia = antes;
+    return manos;
+}
+
+} // namespace
+
+TEST(Coherencia, TuteYBriscaNoPierdenNiDuplicanCartas) {
+    MesaDePrueba mesa;
+    PreparaMesaAutomatica(mesa.Carpeta.path());
+    const MesaAutomatica tipos[] = {
+        {JUEGO_TUTE, 2, false, [] { LimitePartida = 2; }},
+        {JUEGO_TUTE, 4, true, [] { LimitePartida = 2; }},
+        {JUEGO_BRISCA, 3, false, [] { LimitePartida = 2; }},
+        {JUEGO_BRISCA, 4, false, [] { LimitePartida = 2; }},
+    };
+    unsigned semilla = 1;
+    for (const MesaAutomatica& tipo : tipos) {
+        EXPECT_GT(JuegaConComprobacion(tipo, semilla), PARTIDAS);
+        semilla += PARTIDAS;
+    }
+}
+
+// The check sees a lost card and a card that is twice on the table.
+TEST(Coherencia, VeUnaCartaPerdidaOQueEstaDosVeces) {
+    MesaDePrueba mesa;
+    PreparaMesaAutomatica(mesa.Carpeta.path());
+    PreparaPartidaAutomatica({JUEGO_BRISCA, 2, false, nullptr});
+    JuegaPartidaAutomatica(3);
+    ASSERT_TRUE(MesaCoherente());
+    // The last hand's first trick, as the tricks won keep it.
+    int& palo = HistoriaBazas[1][1][HB_PALO];
+    const int valor = HistoriaBazas[1][1][HB_VALOR], paloVisto = palo;
+    ASSERT_NE(paloVisto, 0);
+    palo = 0;
+    QString fallo;
+    EXPECT_FALSE(MesaCoherente(&fallo));
+    EXPECT_TRUE(fallo.contains("0 veces")) << fallo.toStdString();
+    palo = paloVisto;
+    CartasJugador[2][1][1][CAMPO_PALO] = paloVisto;
+    CartasJugador[2][1][1][CAMPO_VALOR] = valor;
+    EXPECT_FALSE(MesaCoherente(&fallo));
+    EXPECT_TRUE(fallo.contains("2 veces")) << fallo.toStdString();
+    CartasJugador[2][1][1][CAMPO_PALO] = CartasJugador[2][1][1][CAMPO_VALOR] = 0;
+}
