@@ -48,7 +48,8 @@ void PruebaCarpeta() {
     QDir::setCurrent(CarpetaTrabajo);
     CarpetaTemporal = false;
     QFile prueba(CarpetaTrabajo + "CSCD.WRK");
-    if (prueba.open(QIODevice::WriteOnly)) {
+    // An installed program shares its folder with every user: each keeps his own settings.
+    if (!ProgramaInstalado() && prueba.open(QIODevice::WriteOnly)) {
         prueba.close();
         prueba.remove();
         return;

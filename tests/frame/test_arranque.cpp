@@ -82,3 +82,15 @@ TEST(Arranque, TheScreenTestAsksOnlyBelow800AndTheTableIsNeverSmaller) {
     EXPECT_EQ(MensajesVistos[0].Lineas, 6);
     EXPECT_EQ(MensajesVistos[0].Botones, 2);
 }
+
+TEST(Arranque, AnInstalledProgramFindsItsFilesInShareAndABuiltOneBesideItself) {
+    QTemporaryDir prefijo;
+    const QString bin = prefijo.path() + "/bin", datos = prefijo.path() + "/share/trufal/";
+    QDir().mkpath(bin);
+    QDir().mkpath(datos);
+    EXPECT_EQ(CarpetaDeDatos(bin), bin + "/") << "nothing anywhere: beside the program";
+    Escribe(datos + "TRF32INI", "plantilla");
+    EXPECT_EQ(CarpetaDeDatos(bin), datos);
+    Escribe(bin + "/TRF32INI", "plantilla"); // a build folder holds its own copy
+    EXPECT_EQ(CarpetaDeDatos(bin), bin + "/");
+}
