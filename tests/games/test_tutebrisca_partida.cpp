@@ -11,6 +11,7 @@
 #include "table/Dibujo.h"
 #include "table/Mensajes.h"
 #include "table/Raton.h"
+#include "table/Sugerencia.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -100,60 +101,73 @@ TEST(TuteBriscaPartida, AutomaticMatchesAddUpAndEndAtTheLimit) {
     }
 }
 
-// The person at seat 4 plays Tute bound from the first trick: a click on a card the rule
-// forbids is not taken, a click on a legal card plays it.
+// The person at seat 4 plays Tute bound from the first trick, and Brisca: a click on a card
+// the rule forbids is not taken, a click on a legal card plays it. At each turn the pane
+// offers the tutor (text 17) or the rules (text 15) by the turn's chance, the tutor more often
+// in Tute.
 TEST(TuteBriscaPartida, ThePersonLaysOnlyLegalCardsWithTheMouse) {
     Fin fin;
-    MesaDePrueba mesa;
-    PreparaPartida(JUEGO_TUTE, 4);
-    ControlJugador[4] = CONTROL_MANUAL;
-    CartasVisibles[4] = CARA_VISIBLE;
-    ObligacionAsistir = 2;
-    LimitePartida = 1;
-    int turnos = 0, rechazos = 0, jugadas = 0;
-    PersonaGuionada = [&] {
-        if (!EsperandoPersona) return;
-        if (!ManoViva || JugadorActual != 4) {
-            EsperandoPersona = false;
-            return;
-        }
-        ++turnos;
-        const int n = NumCartas[4][1];
-        // The person first turns the hand round: the legal cards follow their new places.
-        auto& mano = CartasJugador[4][1];
-        std::reverse(&mano[1], &mano[n + 1]);
-        RehaceCandidatas(4);
-        for (int pos = 1; pos <= n; ++pos) {
-            bool enLista = false;
-            for (int i = 1; i <= NumCandidatas; ++i)
-                enLista = enLista || Candidatas[i][CAND_POSICION] == pos;
-            EXPECT_EQ(enLista, EsCartaLegal(4, pos)) << "position " << pos;
-        }
-        for (int pos = 1; pos <= n; ++pos) {
-            PosicionCarta(4, pos, n);
-            const int x = CartaX + 3, y = CartaY + 40;
-            bool legal = false;
-            for (int i = 1; i <= NumCandidatas; ++i)
-                legal = legal || Candidatas[i][CAND_POSICION] == pos;
-            RatonMovido(x, y, false);
-            RatonPulsado(x, y, 1, false);
-            if (!legal) {
-                EXPECT_EQ(CursorActual, 23);
-                EXPECT_TRUE(EsperandoPersona) << "an illegal card was taken";
-                ++rechazos;
-                continue;
+    for (const int juego : {JUEGO_TUTE, JUEGO_BRISCA}) {
+        MesaDePrueba mesa;
+        PreparaPartida(juego, 4);
+        ControlJugador[4] = CONTROL_MANUAL;
+        CartasVisibles[4] = CARA_VISIBLE;
+        ObligacionAsistir = 2;
+        LimitePartida = 3; // turns enough for chances between the two games' limits
+        VentanaInformacion = 1;
+        const double limite = juego == JUEGO_TUTE ? 0.5 : 0.4;
+        int turnos = 0, rechazos = 0, jugadas = 0, tutor = 0, reglas = 0;
+        PersonaGuionada = [&] {
+            if (!EsperandoPersona) return;
+            if (!ManoViva || JugadorActual != 4) {
+                EsperandoPersona = false;
+                return;
             }
-            EXPECT_FALSE(EsperandoPersona);
-            EXPECT_EQ(CartaElegida, pos);
-            ++jugadas;
-            return;
-        }
-    };
-    NuevaPartida();
-    EXPECT_GT(turnos, 0);
-    EXPECT_EQ(jugadas, turnos) << "each turn of the person ended with a legal card";
-    std::printf("[          ] clics rechazados: %d en %d turnos\n", rechazos, turnos);
-    EXPECT_EQ(Vistos("Final de Partida"), 1);
+            ++turnos;
+            if (CodigoJugada != 2 && CodigoJugada != 4 && CodigoJugada != 7) {
+                const bool alTutor = AzarJugada < limite;
+                EXPECT_EQ(TemaAyuda, alTutor ? 2179 : 3100) << AzarJugada;
+                ++(alTutor ? tutor : reglas);
+            }
+            const int n = NumCartas[4][1];
+            // The person first turns the hand round: the legal cards follow their new places.
+            auto& mano = CartasJugador[4][1];
+            std::reverse(&mano[1], &mano[n + 1]);
+            RehaceCandidatas(4);
+            for (int pos = 1; pos <= n; ++pos) {
+                bool enLista = false;
+                for (int i = 1; i <= NumCandidatas; ++i)
+                    enLista = enLista || Candidatas[i][CAND_POSICION] == pos;
+                EXPECT_EQ(enLista, EsCartaLegal(4, pos)) << "position " << pos;
+            }
+            for (int pos = 1; pos <= n; ++pos) {
+                PosicionCarta(4, pos, n);
+                const int x = CartaX + 3, y = CartaY + 40;
+                bool legal = false;
+                for (int i = 1; i <= NumCandidatas; ++i)
+                    legal = legal || Candidatas[i][CAND_POSICION] == pos;
+                RatonMovido(x, y, false);
+                RatonPulsado(x, y, 1, false);
+                if (!legal) {
+                    EXPECT_EQ(CursorActual, 23);
+                    EXPECT_TRUE(EsperandoPersona) << "an illegal card was taken";
+                    ++rechazos;
+                    continue;
+                }
+                EXPECT_FALSE(EsperandoPersona);
+                EXPECT_EQ(CartaElegida, pos);
+                ++jugadas;
+                return;
+            }
+        };
+        NuevaPartida();
+        EXPECT_GT(turnos, 0);
+        EXPECT_EQ(jugadas, turnos) << "each turn of the person ended with a legal card";
+        EXPECT_GT(tutor, 0);
+        EXPECT_GT(reglas, 0);
+        std::printf("[          ] clics rechazados: %d en %d turnos\n", rechazos, turnos);
+        EXPECT_EQ(Vistos("Final de Partida"), 1);
+    }
 }
 
 // The seat that took the last trick exchanges the 7 for the turned-up card; the person does it
