@@ -53,7 +53,8 @@ inline double PorcentajeDescarte[MAX_DESCARTES + 1][NUM_JUGADAS + 1] = {};
 // Fills Jugadas[seat] and JugadaJugador[seat] from the seat's series 1.
 void EvaluaJugada(int seat);
 // The 32-bit place of the seat's hand among all the hands of the deck, read as the play given
-// (evaluated first); hands of every play compare by it, and equal places tie.
+// from what the seat's last EvaluaJugada left; hands of every play compare by it, and equal
+// places tie. A draw project has no place: 0.
 int OrdenJugada(int jugada, int seat);
 // Puts the cards of the play first in CartasOrdenadas, the rest after them by falling value,
 // and leaves in CartasDeJugada how many make the play.
@@ -63,12 +64,17 @@ bool HayComodin(int seat);
 // The binomial coefficient, worked as a product in floating point and rounded.
 int Combinaciones(int n, int k);
 
-// For a game of Póker, once the deck is known: the codes and names of the plays, the counts
-// of this deck and the rows of the table of draws that belong to it.
+// For a game of Póker, once the deck is known: the codes and names of the plays and the counts
+// of this deck.
 void PonJugadasPoker();
+// The row of TablaCombinaciones of a deck (0 if none), and its count of hands of a play code
+// (of all hands for code 0).
+int FilaCombinaciones(int cartasNormales, int comodines);
+int CuentaCombinaciones(int fila, int jugada);
 // The table of draws, from PkFDes.trf in CarpetaTrabajo. A missing file leaves it empty and
 // tells the person once; a short file gives what rows it holds.
 void LeeTablaDescartes();
+inline bool AvisoDescartesDado = false; // the person has been told of a bad file in this run
 // The file's name, for the readers and the generator.
 constexpr const char* FICHERO_DESCARTES = "PkFDes.trf";
 constexpr int LARGO_REGISTRO_DESCARTES = 92; // 90 digits and a line end
