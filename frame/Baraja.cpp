@@ -4,6 +4,7 @@
 
 #include "frame/TrufalBas.h"
 #include "frame/TrufalGbl.h"
+#include "games/poker/Evaluacion.h"
 #include "table/Dibujo.h"
 
 namespace {
@@ -201,6 +202,11 @@ void ParametrosJuego() {
     CartasNormales = ValoresPorPalo * 4 * NumBarajas;
     CartasBaraja = CartasNormales + NumComodines;
     if (TipoBaraja == BARAJA_FRANCESA) IdsCartas = 52 + NumComodines;
+    // Póker: the plays of this deck, their counts and what a draw brings.
+    if (JuegoActual == JUEGO_POKER) {
+        PonJugadasPoker();
+        LeeTablaDescartes();
+    }
 
     PonPalabrasYMedidas();
     CargaBaraja();

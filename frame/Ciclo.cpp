@@ -520,8 +520,13 @@ void EmpiezaManoApuestas() {
         int seat = JugadorMano;
         for (int vuelta = 0; vuelta < 4; ++vuelta) {
             const int resto = RestoJugador(seat);
+            int entrada = std::min(ApuestaMinima, resto);
+            // A pot dealt again keeps its entry stakes: a new one goes in only as far as the
+            // hand's limit allows.
+            if (JuegoActual == JUEGO_POKER)
+                entrada = std::min(entrada, ApuestaMaxima - ApuestaAcumulada(seat, 1));
             if (resto > 0 && EstadoJugador[seat] == ESTADO_ACTIVADO)
-                ApuestaConFichas(seat, std::min(ApuestaMinima, resto));
+                ApuestaConFichas(seat, entrada);
             SiguienteJugador(seat);
             if (seat == JugadorMano) break;
         }
@@ -529,9 +534,20 @@ void EmpiezaManoApuestas() {
         ReparteCartas();
         if (!PartidaViva) return;
         if (!AnularReparto) break;
-        // The manual deal was given up: the stakes go back and the hand starts again.
-        for (int s = 1; s <= 4; ++s) RecomponeFichas(s, RestoAlEmpezar[s]);
-        for (int d = 0; d <= 6; ++d) Fichas[0][d] = 0;
+        // The manual deal was given up: the stakes go back and the hand starts again, with the
+        // pot as it stood.
+        int bote = 0;
+        for (int s = 1; s <= 4; ++s) {
+            RecomponeFichas(s, RestoAlEmpezar[s]);
+            for (int e = 0; e <= 4; ++e) {
+                for (int f = 0; f <= 5; ++f) {
+                    Apuesta[s][e][f] = ApuestaCopia[s][e][f];
+                    bote += ApuestaCopia[s][e][f];
+                }
+                NumHistorial[s][e] = 0;
+            }
+        }
+        RecomponeFichas(0, ApuestaDelante ? 0 : bote);
         AnularReparto = false;
     }
     DibujaPilas(0);

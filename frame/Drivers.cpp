@@ -2,11 +2,15 @@
 #include "frame/Ciclo.h"
 
 #include "frame/TrufalGbl.h"
+#include "games/poker/Partida.h"
 #include "games/tutebrisca/Partida.h"
 #include "table/Dibujo.h"
 
 void JuegaPartida() {
     switch (JuegoActual) {
+    case JUEGO_POKER:
+        JuegaPoker();
+        break;
     case JUEGO_TUTE:
         JuegaTute();
         break;

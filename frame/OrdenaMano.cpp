@@ -3,6 +3,7 @@
 #include "frame/Ordenar.h"
 #include "frame/TrufalBas.h"
 #include "frame/TrufalGbl.h"
+#include "games/poker/Partida.h"
 #include "table/Dibujo.h"
 
 #include <array>
@@ -32,6 +33,8 @@ QString ClaveOrden(int palo, int valor) {
 }
 
 void OrdenaMano(int seat) {
+    // A whole hand of Póker reads by its play: the cards that make it first.
+    if (JuegoActual == JUEGO_POKER && OrdenaManoPoker(seat)) return;
     const int n = NumCartas[seat][SerieActual];
     if (n < 2) return;
     Lis_Ordenar2.Limpia();

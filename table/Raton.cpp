@@ -3,6 +3,8 @@
 // press handler acts by the shape in force.
 #include "table/Raton.h"
 
+#include "betting/Apostadora.h"
+#include "betting/Fichas.h"
 #include "frame/Baraja.h"
 #include "frame/Ciclo.h"
 #include "frame/TrufalGbl.h"
@@ -189,6 +191,8 @@ int FormaSobreCartas(int x, int y) {
         }
         if (CodigoJugada != 0 && SobreMazo(x, y)) forma = 41;
     }
+    // The stacks of the seat on turn, when it can stake them.
+    if (forma != CURSOR_CAMBIAR && HallaFichaBajoPuntero(x, y) > 0) forma = CURSOR_INDICE;
     if (OrdenManual) {
         if (ArrastrandoCarta)
             forma = 26;
@@ -301,6 +305,12 @@ void RatonPulsado(int x, int y, int boton, bool control) {
     if (indice == 9) return PulsaContinuar();
     if (indice > 0) return PulsaBoton(indice);
     if (const int pulsador = PulsadorBajo(x, y)) return PulsaPulsador(pulsador);
+    if (Dentro(Pic_Apostadora, x, y) && RutinaApostadora[JuegoActual])
+        return RutinaApostadora[JuegoActual](x - Pic_Apostadora.X, y - Pic_Apostadora.Y);
+    // A chip of the seat on turn is staked.
+    if (FichasActivas && CursorActual == CURSOR_INDICE && FichaBajoPuntero >= 1 &&
+        FichaBajoPuntero <= 6)
+        return PulsaFicha();
 
     if (AnularReparto) return PulsaEnRepartoManual(x, y, control);
     if (OrdenManual && CursorActual == CURSOR_TOMAR) {
@@ -364,6 +374,7 @@ void RatonMovido(int x, int y, bool) {
 }
 
 void RatonSoltado(int x, int y, int boton) {
+    SueltaApostadora();
     if (DentroPopup(x, y)) {
         SueltaPopup(x, y);
         return;

@@ -1,0 +1,8 @@
+// Póker hands written as text for the tests.
+#pragma once
+
+#include <string>
+
+// Puts a hand on a seat's series 1: "AO KC 10E 3B J1", suits O C E B for 1 to 4, J1 and J2
+// the jokers.
+void PonMano(int seat, const std::string& mano);
