@@ -21,6 +21,11 @@ constexpr int SERIE = 1;
 // What the table knows of each seat's hand starts blank at each deal.
 void PreparaMano() {
     for (int s = 0; s <= 4; ++s) {
+        // A pot dealt again keeps the stakes of the rounds before: they count as entry now, so
+        // that each round of this deal starts from nothing staked.
+        Apuesta[s][SERIE][FASE_POKER_ENTRADA] +=
+            Apuesta[s][SERIE][FASE_POKER_APUESTA1] + Apuesta[s][SERIE][FASE_POKER_APUESTA2];
+        Apuesta[s][SERIE][FASE_POKER_APUESTA1] = Apuesta[s][SERIE][FASE_POKER_APUESTA2] = 0;
         Farol[s] = false;
         JugadaMinEstimada[s] = JugadaMaxEstimada[s] = 0;
         Ganancia[s] = 0;

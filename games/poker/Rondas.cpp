@@ -122,7 +122,7 @@ bool TurnoApuesta() {
         TiraCartas(seat);
     }
     // Paso 9. A higher stake is the new one to answer.
-    if (Apuesta[seat][SERIE][FaseJuego] > ApuestaMaxRonda) {
+    if (ApuestaAnunciada >= 0 && Apuesta[seat][SERIE][FaseJuego] > ApuestaMaxRonda) {
         ApuestaMaxRonda = Apuesta[seat][SERIE][FaseJuego];
         JugadorMaxApuesta = seat;
         TurnosDesdeSubida = 1;
@@ -141,9 +141,12 @@ int SeatsConCartas() {
     return n;
 }
 
+// Nobody in the hand can add a chip: each seat has staked the hand's limit or has no money.
 bool TodosAlLimite() {
     for (int s = 1; s <= 4; ++s)
-        if (NumCartas[s][SERIE] > 0 && ApuestaAcumulada(s, SERIE) < ApuestaMaxima) return false;
+        if (NumCartas[s][SERIE] > 0 && ApuestaAcumulada(s, SERIE) < ApuestaMaxima &&
+            RestoJugador(s) > 0)
+            return false;
     return true;
 }
 
