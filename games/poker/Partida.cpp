@@ -44,7 +44,7 @@ bool AlgunoAlLimite() {
 
 // After the draw the rest of the stock joins the pile: both are cleared and drawn as one.
 void RecogeMazo() {
-    BorraZona(MazoX, MazoY - 16, ANCHO_CARTA + 16, ALTO_CARTA + 16);
+    BorraZona(MazoX - 16, MazoY - 16, ANCHO_CARTA + 32, ALTO_CARTA + 32);
     BorraZona(PozoX, PozoY - 16, ANCHO_CARTA + 16, ALTO_CARTA + 16);
     for (int i = 0; i < CartasEnMazo && CartasEnPozo < 54; ++i) {
         ++CartasEnPozo;

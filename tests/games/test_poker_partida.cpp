@@ -4,7 +4,10 @@
 #include "betting/Fichas.h"
 #include "bench/Automatica.h"
 #include "frame/Coherencia.h"
+#include "frame/Ciclo.h"
+#include "frame/TrufalBas.h"
 #include "frame/TrufalGbl.h"
+#include "table/Dibujo.h"
 #include "support/MesaDePrueba.h"
 #include "table/Mensajes.h"
 
@@ -13,6 +16,25 @@
 #include <gtest/gtest.h>
 
 namespace {} // namespace
+
+namespace {
+
+// An automatic match whose messages stay to be read afterwards.
+int JuegaConMensajes(unsigned semilla) {
+    PausasACero = VuelosOmitidos = true;
+    SemillaFija = semilla;
+    PersonaGuionada = [] { EsperandoPersona = false; };
+    RespuestasGuionadas.assign(4, false);
+    MensajesVistos.clear();
+    NuevaPartida();
+    RespuestasGuionadas.clear();
+    PersonaGuionada = nullptr;
+    SemillaFija = 0;
+    PausasACero = VuelosOmitidos = false;
+    return NumeroMano;
+}
+
+} // namespace
 
 // Seeded automatic matches at several rule settings, the table checked after every move: each
 // ends with one seat holding every chip, each hand ends with a result or a redeal, and a hand
@@ -40,7 +62,12 @@ TEST(PokerPartida, AutomaticMatchesKeepTheMoneyAndEndWithOneSeatHoldingIt) {
                                           ApuestaMinima = c.minima;
                                           ApuestaMaxima = c.maxima;
                                       }});
-            const int jugadas = JuegaPartidaAutomatica(semilla);
+            const int jugadas = JuegaConMensajes(semilla);
+            // The computer seats stake within the limits: no refusal is ever shown for them.
+            for (const auto& m : MensajesVistos)
+                EXPECT_TRUE(m.Titulo != "Límite sobrepasado" &&
+                            m.Titulo != "No puede subir la apuesta")
+                    << m.Titulo.toStdString() << " semilla " << semilla;
             const std::string caso =
                 "ley " + std::to_string(c.ley) + " semilla " + std::to_string(semilla);
             manos += jugadas;
