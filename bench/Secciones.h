@@ -11,3 +11,4 @@ double ManosPorSegundo(const MesaAutomatica& mesa, int manos);
 
 void BenchTuteBrisca();
 void BenchPoker();
+void BenchPokerMotor();

@@ -22,6 +22,8 @@ int main(int argc, char** argv) {
         std::printf("\n");
         BenchPoker();
         std::printf("\n");
+        BenchPokerMotor();
+        std::printf("\n");
     }
     const auto firmas = FirmasDeLosJuegos();
     if (!soloFirmas) std::printf("Firmas de los juegos (bench/firmas.txt):\n");

@@ -402,8 +402,9 @@ int ContestaApuesta(Turno& t) {
         const int n = Farol[t.Seat] ? FAROL_DEBIL_SEGUIDO : FAROL_DEBIL;
         if (Farolea(t.Seat, n, t.D)) a = 2 * ApuestaMaxRonda;
     }
-    // A weak hand sometimes sees the first round, the bolder the more often; not over a bluff.
-    if (a == -1 && t.R >= 2 && !segunda && Ent(t.D * VISTA_DEBIL / t.C + 1) == 1) a = t.PorIgualar;
+    // A weak hand sometimes sees the first round, the bolder the more often; in that round a
+    // bluff of the same chance is only a call, though it is remembered.
+    if (t.R >= 2 && !segunda && Ent(t.D * VISTA_DEBIL / t.C + 1) == 1) a = t.PorIgualar;
     return a;
 }
 

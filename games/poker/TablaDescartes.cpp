@@ -46,7 +46,10 @@ void GuardaFila(const QByteArray& linea) {
 
 void LeeTablaDescartes() {
     NumDescartes = 0;
+    // The work folder first, then the program's own, where the file is installed.
     QFile fichero(CarpetaTrabajo + FICHERO_DESCARTES);
+    if (!fichero.exists() && !CarpetaPrograma.isEmpty())
+        fichero.setFileName(CarpetaPrograma + FICHERO_DESCARTES);
     if (!fichero.open(QIODevice::ReadOnly)) {
         Avisa("No se encuentra el fichero PkFDes.trf. El juego sigue, pero las estadísticas del "
               "Póker no podrán mostrar lo que puede dar cada descarte.");
