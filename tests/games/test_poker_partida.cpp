@@ -4,10 +4,13 @@
 #include "betting/Fichas.h"
 #include "bench/Automatica.h"
 #include "frame/Coherencia.h"
+#include "frame/Baraja.h"
 #include "frame/Ciclo.h"
 #include "frame/TrufalBas.h"
 #include "frame/TrufalGbl.h"
 #include "table/Dibujo.h"
+#include "games/poker/MesaPoker.h"
+#include "support/ManosPoker.h"
 #include "support/MesaDePrueba.h"
 #include "table/Mensajes.h"
 
@@ -92,4 +95,57 @@ TEST(PokerPartida, AutomaticMatchesKeepTheMoneyAndEndWithOneSeatHoldingIt) {
     ComprobarCoherencia = antes;
     std::printf("[          ] %d manos, %d sin apuestas\n", manos, redeals);
     EXPECT_GT(redeals, 0) << "some hand was dealt again when nobody could open";
+}
+
+// The showdown shares the pot as worked out by hand: a short all-in winner takes only what it
+// could match and the rest goes to second place, equal hands split whatever their suits (the
+// odd chip to the first winner in seat order), and a folded stake stays for the winner.
+TEST(PokerPartida, TheShowdownSharesThePotAsWorkedOutByHand) {
+    MesaDePrueba mesa;
+    const struct {
+        const char* manos[4]; // "" has folded
+        int apuesta[4], resto[4], cobra[4];
+    } casos[] = {
+        // Seat 1 all in for 10 with the best hand; 30 each from seats 2 and 3.
+        {{"KO KC 2E 5B 8O", "QO QC 3E 6B 9O", "AO JC 4E 7B 10E", ""},
+         {10, 30, 30, 0},
+         {0, 50, 50, 80},
+         {30, 40, 0, 0}},
+        // Kings and nines, the same in two suits: 45 split 23 and 22.
+        {{"KO KC 9E 7B 4O", "KE KB 9O 7C 4E", "QO QC 3E 6B 9B", ""},
+         {15, 15, 15, 0},
+         {20, 20, 20, 80},
+         {23, 22, 0, 0}},
+        // Seat 4 folded its 5; seat 2's straight beats seat 1's two pairs.
+        {{"KO KC 9E 9B 4O", "5O 6C 7E 8B 9C", "", ""},
+         {20, 20, 0, 5},
+         {30, 30, 40, 40},
+         {0, 45, 0, 0}},
+    };
+    for (const auto& c : casos) {
+        ReiniciaEstado();
+        JuegoActual = JUEGO_POKER;
+        ParametrosJuego();
+        PartidaViva = true;
+        NumeroMano = 1;
+        JugadorMano = 1;
+        PersonaGuionada = [] { EsperandoPersona = false; };
+        int bote = 0;
+        for (int s = 1; s <= 4; ++s) {
+            EstadoJugador[s] = ESTADO_ACTIVADO;
+            NumCartas[s][1] = 0;
+            if (*c.manos[s - 1]) PonMano(s, c.manos[s - 1]);
+            Apuesta[s][1][FASE_POKER_APUESTA1] = c.apuesta[s - 1];
+            bote += c.apuesta[s - 1];
+            RecomponeFichas(s, c.resto[s - 1]);
+        }
+        RecomponeFichas(0, bote);
+        FinalManoPoker();
+        for (int s = 1; s <= 4; ++s)
+            EXPECT_EQ(RestoJugador(s), c.resto[s - 1] + c.cobra[s - 1])
+                << c.manos[0] << " seat " << s;
+        EXPECT_EQ(ValorBote(), 0);
+        PersonaGuionada = nullptr;
+        PartidaViva = false;
+    }
 }
