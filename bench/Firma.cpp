@@ -21,6 +21,20 @@ std::vector<LineaFirma> LineasFirma() {
         {{JUEGO_BRISCA, 2, false, [] { LimitePartida = 2; }}},
         {{JUEGO_BRISCA, 3, false, [] { LimitePartida = 2; }}},
         {{JUEGO_BRISCA, 4, true, [] { LimitePartida = 2; }}},
+        {{JUEGO_POKER, 2, false, [] { RestoInicial = 40; }}},
+        {{JUEGO_POKER, 3, false,
+          [] {
+              RestoInicial = 40;
+              LeyApertura = 10;
+              OpcionComodines = 2;
+          }}},
+        {{JUEGO_POKER, 4, false,
+          [] {
+              RestoInicial = 40;
+              CartaMinimaPoker = 5;
+              OpcionComodines = 3;
+              LimiteDescartes = 3;
+          }}},
     };
 }
 

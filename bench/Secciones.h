@@ -10,4 +10,5 @@ double SegundosDeProceso();
 double ManosPorSegundo(const MesaAutomatica& mesa, int manos);
 
 void BenchTuteBrisca();
+void BenchPoker();
 void BenchPokerMotor();

@@ -20,6 +20,8 @@ int main(int argc, char** argv) {
     if (!soloFirmas) {
         BenchTuteBrisca();
         std::printf("\n");
+        BenchPoker();
+        std::printf("\n");
         BenchPokerMotor();
         std::printf("\n");
     }

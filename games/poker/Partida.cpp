@@ -21,6 +21,11 @@ constexpr int SERIE = 1;
 // What the table knows of each seat's hand starts blank at each deal.
 void PreparaMano() {
     for (int s = 0; s <= 4; ++s) {
+        // A pot dealt again keeps the stakes of the rounds before: they count as entry now, so
+        // that each round of this deal starts from nothing staked.
+        Apuesta[s][SERIE][FASE_POKER_ENTRADA] +=
+            Apuesta[s][SERIE][FASE_POKER_APUESTA1] + Apuesta[s][SERIE][FASE_POKER_APUESTA2];
+        Apuesta[s][SERIE][FASE_POKER_APUESTA1] = Apuesta[s][SERIE][FASE_POKER_APUESTA2] = 0;
         Farol[s] = false;
         JugadaMinEstimada[s] = JugadaMaxEstimada[s] = 0;
         Ganancia[s] = 0;
@@ -39,7 +44,7 @@ bool AlgunoAlLimite() {
 
 // After the draw the rest of the stock joins the pile: both are cleared and drawn as one.
 void RecogeMazo() {
-    BorraZona(MazoX, MazoY - 16, ANCHO_CARTA + 16, ALTO_CARTA + 16);
+    BorraZona(MazoX - 16, MazoY - 16, ANCHO_CARTA + 32, ALTO_CARTA + 32);
     BorraZona(PozoX, PozoY - 16, ANCHO_CARTA + 16, ALTO_CARTA + 16);
     for (int i = 0; i < CartasEnMazo && CartasEnPozo < 54; ++i) {
         ++CartasEnPozo;

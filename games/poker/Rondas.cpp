@@ -15,18 +15,33 @@
 #include "table/Sugerencia.h"
 
 #include <QStringList>
+#include <algorithm>
 
 namespace {
 
 constexpr int SERIE = 1;
 constexpr int PAUSA_TURNO = 900; // a computer seat thinks so long when nobody steps the game
 
+// The most a seat can add to its stake now without passing a limit of the board: its money, the
+// hand's limit, and what the richest rival still in the hand could match.
+int CabeEnLimites(int seat) {
+    const int acumulada = ApuestaAcumulada(seat, SERIE);
+    int mayorResto = 0;
+    for (int otro = 1; otro <= 4; ++otro)
+        if (otro != seat && NumCartas[otro][SERIE] > 0)
+            mayorResto = std::max(mayorResto, ApuestaAcumulada(otro, SERIE) + RestoJugador(otro));
+    return std::max(
+        0, std::min({RestoJugador(seat), ApuestaMaxima - acumulada, mayorResto - acumulada}));
+}
+
 // A seat that keeps its stake below the highest with money left can't stay: what it lacks is
-// called, or, if the board refuses it, the seat folds.
+// called, or, if the limits of the board don't let it, the seat folds.
 int AseguraIgualada(int seat, int anunciada) {
     if (anunciada < 0) return anunciada;
     auto falta = [seat] { return ApuestaMaxRonda - Apuesta[seat][SERIE][FaseJuego]; };
     if (falta() <= 0 || RestoJugador(seat) == 0) return anunciada;
+    const int cabe = CabeEnLimites(seat);
+    if (cabe < std::min(falta(), RestoJugador(seat))) return -1;
     ApuestaConFichas(seat, std::min(falta(), RestoJugador(seat)));
     if (falta() > 0 && RestoJugador(seat) > 0) return -1;
     return std::max(Apuesta[seat][SERIE][FaseJuego], 1);
@@ -105,6 +120,14 @@ bool TurnoApuesta() {
     } else {
         if (ApuestaPersona > 0) AnulaApostado(seat);
         DecideApuesta();
+        // The computer's stake stays within the board's limits: no refusal is shown for it.
+        if (ApuestaOrdenador > 0) {
+            ApuestaOrdenador = std::min(ApuestaOrdenador, CabeEnLimites(seat));
+            // Short of the call and not all in: the seat can't stay.
+            if (Apuesta[seat][SERIE][FaseJuego] + ApuestaOrdenador < ApuestaMaxRonda &&
+                ApuestaOrdenador < RestoJugador(seat))
+                ApuestaOrdenador = -1;
+        }
         ApuestaAnunciada = ApuestaOrdenador;
         ApuestaConFichas(seat, ApuestaOrdenador);
     }
@@ -122,7 +145,7 @@ bool TurnoApuesta() {
         TiraCartas(seat);
     }
     // Paso 9. A higher stake is the new one to answer.
-    if (Apuesta[seat][SERIE][FaseJuego] > ApuestaMaxRonda) {
+    if (ApuestaAnunciada >= 0 && Apuesta[seat][SERIE][FaseJuego] > ApuestaMaxRonda) {
         ApuestaMaxRonda = Apuesta[seat][SERIE][FaseJuego];
         JugadorMaxApuesta = seat;
         TurnosDesdeSubida = 1;
@@ -141,9 +164,12 @@ int SeatsConCartas() {
     return n;
 }
 
+// Nobody in the hand can add a chip: each seat has staked the hand's limit or has no money.
 bool TodosAlLimite() {
     for (int s = 1; s <= 4; ++s)
-        if (NumCartas[s][SERIE] > 0 && ApuestaAcumulada(s, SERIE) < ApuestaMaxima) return false;
+        if (NumCartas[s][SERIE] > 0 && ApuestaAcumulada(s, SERIE) < ApuestaMaxima &&
+            RestoJugador(s) > 0)
+            return false;
     return true;
 }
 

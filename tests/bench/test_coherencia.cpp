@@ -66,3 +66,23 @@ TEST(Coherencia, VeUnaCartaPerdidaOQueEstaDosVeces) {
     EXPECT_TRUE(fallo.contains("2 veces")) << fallo.toStdString();
     CartasJugador[2][1][1][CAMPO_PALO] = CartasJugador[2][1][1][CAMPO_VALOR] = 0;
 }
+
+TEST(Coherencia, PokerNoPierdeNiCreaFichas) {
+    MesaDePrueba mesa;
+    PreparaMesaAutomatica(mesa.Carpeta.path());
+    const MesaAutomatica tipos[] = {
+        {JUEGO_POKER, 4, false, [] { RestoInicial = 25; }},
+        {JUEGO_POKER, 3, false,
+         [] {
+             RestoInicial = 25;
+             LeyApertura = 10;
+             OpcionComodines = 3;
+             CartaMinimaPoker = 6;
+         }},
+    };
+    unsigned semilla = 1;
+    for (const MesaAutomatica& tipo : tipos) {
+        EXPECT_GT(JuegaConComprobacion(tipo, semilla), PARTIDAS);
+        semilla += PARTIDAS;
+    }
+}

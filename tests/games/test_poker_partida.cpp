@@ -1,0 +1,151 @@
+// Whole matches of Póker at a table without a window: the money never changes hands but through
+// the pot, the match ends with one seat holding all of it, and the showdown shares the pot as a
+// table worked out by hand says.
+#include "betting/Fichas.h"
+#include "bench/Automatica.h"
+#include "frame/Coherencia.h"
+#include "frame/Baraja.h"
+#include "frame/Ciclo.h"
+#include "frame/TrufalBas.h"
+#include "frame/TrufalGbl.h"
+#include "table/Dibujo.h"
+#include "games/poker/MesaPoker.h"
+#include "support/ManosPoker.h"
+#include "support/MesaDePrueba.h"
+#include "table/Mensajes.h"
+
+#include <cstdio>
+
+#include <gtest/gtest.h>
+
+namespace {} // namespace
+
+namespace {
+
+// An automatic match whose messages stay to be read afterwards.
+int JuegaConMensajes(unsigned semilla) {
+    PausasACero = VuelosOmitidos = true;
+    SemillaFija = semilla;
+    PersonaGuionada = [] { EsperandoPersona = false; };
+    RespuestasGuionadas.assign(4, false);
+    MensajesVistos.clear();
+    NuevaPartida();
+    RespuestasGuionadas.clear();
+    PersonaGuionada = nullptr;
+    SemillaFija = 0;
+    PausasACero = VuelosOmitidos = false;
+    return NumeroMano;
+}
+
+} // namespace
+
+// Seeded automatic matches at several rule settings, the table checked after every move: each
+// ends with one seat holding every chip, each hand ends with a result or a redeal, and a hand
+// shown at the showdown reads as a play of five cards.
+TEST(PokerPartida, AutomaticMatchesKeepTheMoneyAndEndWithOneSeatHoldingIt) {
+    MesaDePrueba mesa;
+    PreparaMesaAutomatica(mesa.Carpeta.path());
+    const struct {
+        int jugadores, ley, comodines, cartaMinima, descartes, resto, minima, maxima;
+    } casos[] = {
+        {4, 14, 1, 1, 5, 40, 5, 25}, {4, 10, 1, 1, 5, 40, 5, 25}, {3, 1, 3, 6, 3, 40, 2, 40},
+        {2, 13, 2, 4, 0, 30, 5, 25}, {4, 7, 2, 1, 2, 40, 1, 10},
+    };
+    const bool antes = ComprobarCoherencia;
+    ComprobarCoherencia = true;
+    int manos = 0, redeals = 0;
+    for (const auto& c : casos)
+        for (unsigned semilla = 1; semilla <= 3; ++semilla) {
+            PreparaPartidaAutomatica({JUEGO_POKER, c.jugadores, false, [&c] {
+                                          LeyApertura = c.ley;
+                                          OpcionComodines = c.comodines;
+                                          CartaMinimaPoker = c.cartaMinima;
+                                          LimiteDescartes = c.descartes;
+                                          RestoInicial = c.resto;
+                                          ApuestaMinima = c.minima;
+                                          ApuestaMaxima = c.maxima;
+                                      }});
+            const int jugadas = JuegaConMensajes(semilla);
+            // The computer seats stake within the limits: no refusal is ever shown for them.
+            for (const auto& m : MensajesVistos)
+                EXPECT_TRUE(m.Titulo != "Límite sobrepasado" &&
+                            m.Titulo != "No puede subir la apuesta")
+                    << m.Titulo.toStdString() << " semilla " << semilla;
+            const std::string caso =
+                "ley " + std::to_string(c.ley) + " semilla " + std::to_string(semilla);
+            manos += jugadas;
+            ASSERT_GE(GanadorPartida, 1) << caso;
+            EXPECT_EQ(RestoJugador(GanadorPartida), c.jugadores * c.resto) << caso;
+            EXPECT_EQ(ValorBote(), 0) << caso;
+            // A hand without a pot in its record was dealt again: nobody staked.
+            for (int m = 1; m <= jugadas && m <= MAX_MANOS; ++m) {
+                const RegistroMano& r = RegistroManos[m];
+                int primeros = 0;
+                for (int s = 1; s <= 4; ++s) {
+                    primeros += r.Gana[s][1] == 1;
+                    if (r.Detalle[s].isEmpty() || r.Detalle[s] == "aceptado") continue;
+                    EXPECT_EQ(r.Detalle[s].split(' ').size(), 5) << caso << " mano " << m;
+                }
+                if (r.Banca == 0)
+                    ++redeals;
+                else
+                    EXPECT_GE(primeros, 1) << caso << " mano " << m;
+            }
+        }
+    ComprobarCoherencia = antes;
+    std::printf("[          ] %d manos, %d sin apuestas\n", manos, redeals);
+    EXPECT_GT(redeals, 0) << "some hand was dealt again when nobody could open";
+}
+
+// The showdown shares the pot as worked out by hand: a short all-in winner takes only what it
+// could match and the rest goes to second place, equal hands split whatever their suits (the
+// odd chip to the first winner in seat order), and a folded stake stays for the winner.
+TEST(PokerPartida, TheShowdownSharesThePotAsWorkedOutByHand) {
+    MesaDePrueba mesa;
+    const struct {
+        const char* manos[4]; // "" has folded
+        int apuesta[4], resto[4], cobra[4];
+    } casos[] = {
+        // Seat 1 all in for 10 with the best hand; 30 each from seats 2 and 3.
+        {{"KO KC 2E 5B 8O", "QO QC 3E 6B 9O", "AO JC 4E 7B 10E", ""},
+         {10, 30, 30, 0},
+         {0, 50, 50, 80},
+         {30, 40, 0, 0}},
+        // Kings and nines, the same in two suits: 45 split 23 and 22.
+        {{"KO KC 9E 7B 4O", "KE KB 9O 7C 4E", "QO QC 3E 6B 9B", ""},
+         {15, 15, 15, 0},
+         {20, 20, 20, 80},
+         {23, 22, 0, 0}},
+        // Seat 4 folded its 5; seat 2's straight beats seat 1's two pairs.
+        {{"KO KC 9E 9B 4O", "5O 6C 7E 8B 9C", "", ""},
+         {20, 20, 0, 5},
+         {30, 30, 40, 40},
+         {0, 45, 0, 0}},
+    };
+    for (const auto& c : casos) {
+        ReiniciaEstado();
+        JuegoActual = JUEGO_POKER;
+        ParametrosJuego();
+        PartidaViva = true;
+        NumeroMano = 1;
+        JugadorMano = 1;
+        PersonaGuionada = [] { EsperandoPersona = false; };
+        int bote = 0;
+        for (int s = 1; s <= 4; ++s) {
+            EstadoJugador[s] = ESTADO_ACTIVADO;
+            NumCartas[s][1] = 0;
+            if (*c.manos[s - 1]) PonMano(s, c.manos[s - 1]);
+            Apuesta[s][1][FASE_POKER_APUESTA1] = c.apuesta[s - 1];
+            bote += c.apuesta[s - 1];
+            RecomponeFichas(s, c.resto[s - 1]);
+        }
+        RecomponeFichas(0, bote);
+        FinalManoPoker();
+        for (int s = 1; s <= 4; ++s)
+            EXPECT_EQ(RestoJugador(s), c.resto[s - 1] + c.cobra[s - 1])
+                << c.manos[0] << " seat " << s;
+        EXPECT_EQ(ValorBote(), 0);
+        PersonaGuionada = nullptr;
+        PartidaViva = false;
+    }
+}
