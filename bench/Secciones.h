@@ -7,3 +7,4 @@
 double ManosPorSegundo(const MesaAutomatica& mesa, int manos);
 
 void BenchTuteBrisca();
+void BenchChinchon();
