@@ -22,11 +22,13 @@ std::vector<LineaFirma> LineasFirma() {
         {{JUEGO_BRISCA, 3, false, [] { LimitePartida = 2; }}},
         {{JUEGO_BRISCA, 4, true, [] { LimitePartida = 2; }}},
         {{JUEGO_CHINCHON, 2, false, [] { LimitePartida = 30; }}},
-        {{JUEGO_CHINCHON, 3, false, [] {
+        {{JUEGO_CHINCHON, 3, false,
+          [] {
               LimitePartida = 30;
               TipoBarajaEspanola = 2;
           }}},
-        {{JUEGO_CHINCHON, 4, false, [] {
+        {{JUEGO_CHINCHON, 4, false,
+          [] {
               LimitePartida = 30;
               AsOrosComodin = true;
               CartasSiempreOrdenadas = true;

@@ -46,8 +46,9 @@ void OrdenaMano(int seat) {
     Lis_Ordenar2.Limpia();
     for (int p = 1; p <= n; ++p) {
         const auto& c = CartasJugador[seat][SerieActual][p];
-        const QString clave = porJugadas ? Formato(PuestoEnJugada(c[CAMPO_PALO], c[CAMPO_VALOR]), "00")
-                                         : ClaveOrden(c[CAMPO_PALO], c[CAMPO_VALOR]);
+        const QString clave = porJugadas
+                                  ? Formato(PuestoEnJugada(c[CAMPO_PALO], c[CAMPO_VALOR]), "00")
+                                  : ClaveOrden(c[CAMPO_PALO], c[CAMPO_VALOR]);
         Lis_Ordenar2.Agrega(clave, p);
     }
     std::vector<std::array<int, 6>> copia(n + 1);

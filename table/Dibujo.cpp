@@ -177,7 +177,8 @@ void MuestraMano(int seat, int serie) {
         // Chinchón, while the loose cards are laid off: a hand the others don't see shows its
         // melds and keeps its loose cards covered.
         const bool soloJugadas = JuegoActual == JUEGO_CHINCHON &&
-                                 FaseJuego == FASE_CHINCHON_CIERRE && CartasVisibles[s] == CARA_OCULTA;
+                                 FaseJuego == FASE_CHINCHON_CIERRE &&
+                                 CartasVisibles[s] == CARA_OCULTA;
         if (soloJugadas) EvaluaManoDelSeat(s);
         for (int p = 1; p <= NumCartas[s][serie]; ++p) {
             const auto& c = CartasJugador[s][serie][p];

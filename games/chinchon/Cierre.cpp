@@ -25,16 +25,6 @@ constexpr int SERIE = 1;
 constexpr int TEMA_COMBINAR = 3130;
 constexpr int INFO_TUTOR = 17, INFO_SOBRANTES = 50;
 constexpr unsigned COLOR_RECIBIENDO = 0xFFFF00; // written, not spoken
-constexpr int LETRAS_POR_LINEA = 60;            // what a line of the message box holds, about
-
-// The lines the message box needs for the text: each paragraph as wide as it runs.
-int LineasDe(const QString& texto) {
-    int lineas = 0;
-    for (const QString& parrafo : texto.split(SaltoLinea))
-        lineas += std::max(1, static_cast<int>((parrafo.size() + LETRAS_POR_LINEA - 1) /
-                                               LETRAS_POR_LINEA));
-    return lineas;
-}
 
 void BorraRotulo() {
     BorraZona(CentroMesaX - 150, RotuloMesaY(), 301, 61);
@@ -232,11 +222,12 @@ void AnunciaCierre() {
     }
     QString texto = TextoDelCierre();
     if (CierreChinchon != CIERRE_CHINCHON)
-        texto += SaltoLinea + SaltoLinea +
-                 "Comienza  el  proceso  de  combinar  las cartas sobrantes.";
-    const QString titulo = CierreChinchon == CIERRE_CHINCHON ? QStringLiteral("Final de la partida")
-                                                             : QStringLiteral("Combinar cartas sobrantes");
-    Mensaje(titulo, texto, LineasDe(texto), 1, TEMA_COMBINAR);
+        texto +=
+            SaltoLinea + SaltoLinea + "Comienza  el  proceso  de  combinar  las cartas sobrantes.";
+    const QString titulo = CierreChinchon == CIERRE_CHINCHON
+                               ? QStringLiteral("Final de la partida")
+                               : QStringLiteral("Combinar cartas sobrantes");
+    Mensaje(titulo, texto, 4, 1, TEMA_COMBINAR); // the box grows to a longer text
     PreparaDetalles();
     DibujaMazo(MazoX, MazoY, 0);
     DibujaMazo(PozoX, PozoY, 0);
@@ -265,7 +256,8 @@ bool FinalManoChinchon() {
         EvaluaManoDelSeat(s);
         PuntosMano[s] = PuntosSobrantes;
     }
-    if (FinMano == FIN_CERRADA && CierreChinchon == CIERRE_MENOS_DIEZ) PuntosMano[GanadorMano] = -10;
+    if (FinMano == FIN_CERRADA && CierreChinchon == CIERRE_MENOS_DIEZ)
+        PuntosMano[GanadorMano] = -10;
     if (FinMano == FIN_CERRADA && CierreChinchon == CIERRE_MENOS_VEINTICINCO)
         PuntosMano[GanadorMano] = -25;
 
@@ -279,8 +271,8 @@ bool FinalManoChinchon() {
         for (int i = 0; i < Lis_Ordenar.Cuenta(); ++i) {
             const int s = Lis_Ordenar.Dato(i), puntos = PuntosMano[s];
             texto += NombreJugador[s] + " : " + (puntos < 0 ? "Descuenta " : "") +
-                     Formato(std::abs(puntos), "##0") + (std::abs(puntos) == 1 ? " punto." : " puntos.") +
-                     SaltoLinea;
+                     Formato(std::abs(puntos), "##0") +
+                     (std::abs(puntos) == 1 ? " punto." : " puntos.") + SaltoLinea;
         }
         Mensaje("Final de la mano", texto, Lis_Ordenar.Cuenta() + 1, 1);
     }

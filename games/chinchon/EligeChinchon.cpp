@@ -56,7 +56,8 @@ void EligeRobo(int seat) {
         ++vistos;
         for (int p = 1; p <= NumCartas[s][SERIE]; ++p) {
             const auto& c = CartasJugador[s][SERIE][p];
-            if (c[CAMPO_PALO] >= 1 && c[CAMPO_PALO] <= 4) fuera[c[CAMPO_PALO]][c[CAMPO_VALOR]] = true;
+            if (c[CAMPO_PALO] >= 1 && c[CAMPO_PALO] <= 4)
+                fuera[c[CAMPO_PALO]][c[CAMPO_VALOR]] = true;
         }
     }
 
@@ -93,7 +94,8 @@ void EligeRobo(int seat) {
         }
     const int caracter = std::clamp(CaracterJugador[seat], 1, 3);
     OrigenOrdenador = ROBO_MAZO;
-    if (ValorPozo > ValorActual && puesto < PARTE_POZO[caracter] * total) OrigenOrdenador = ROBO_POZO;
+    if (ValorPozo > ValorActual && puesto < PARTE_POZO[caracter] * total)
+        OrigenOrdenador = ROBO_POZO;
     if (CartasEnMazo == 0 && CartasEnPozo > 0) OrigenOrdenador = ROBO_POZO;
     if (CartasEnPozo == 0) OrigenOrdenador = ROBO_MAZO;
 }

@@ -16,7 +16,7 @@ namespace {
 
 // The weights of a hand, each written as two digits of Valoracion.
 constexpr int LIBRES_CON_COMODIN = 85, LIBRES_SIN_COMODIN = 70; // the most loose points a hand has
-constexpr int PUNTOS_COMODIN_SUELTO = 25; // the As de Oros left loose when it is the joker
+constexpr int PUNTOS_COMODIN_SUELTO = 25;   // the As de Oros left loose when it is the joker
 constexpr int NIVEL_SALIDAS_AL_CERRAR = 65; // from it, a hand about to close wants few outs
 constexpr int NIVEL_ORDEN_FINO = 90;        // from it, the seat weighs outs before points
 constexpr int DISPERSION_40 = 18, DISPERSION_48 = 24; // the scatter a suit can reach at most

@@ -210,6 +210,9 @@ bool TurnoDeSeat() {
 
 // One hand, from the deal to its score. Returns false when the match was left.
 bool JuegaUnaMano() {
+    // A hand sorted at the deal is weighed with nothing known of the last hand.
+    VaciaRegistroDescartes();
+    RecibeDesde = 0;
     NuevaMano();
     if (!PartidaViva) return false;
     CompruebaMesa();

@@ -48,9 +48,10 @@ TEST(Coherencia, ChinchonNoPierdeNiDuplicaCartas) {
     MesaDePrueba mesa;
     PreparaMesaAutomatica(mesa.Carpeta.path());
     const MesaAutomatica tipos[] = {
-        {JUEGO_CHINCHON, 2, false, [] { LimitePartida = 15; }},
-        {JUEGO_CHINCHON, 4, false, [] {
-             LimitePartida = 15;
+        {JUEGO_CHINCHON, 2, false, [] { LimitePartida = 6; }},
+        {JUEGO_CHINCHON, 4, false,
+         [] {
+             LimitePartida = 6;
              TipoBarajaEspanola = 2;
              CartasSiempreOrdenadas = true;
          }},

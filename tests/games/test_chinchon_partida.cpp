@@ -164,9 +164,8 @@ TEST(ChinchonPartida, SeededMatchesAddUpAndTheLastSeatBelowTheLimitWins) {
             EXPECT_LE(bajo, 1) << semilla;
             if (bajo == 1) EXPECT_EQ(GanadorPartida, ultimo) << semilla;
         }
-        std::printf("[          ] semilla %u, %d jugadores: %d manos, gana Jugador%d%s\n",
-                    semilla, jugadores, NumeroMano, GanadorPartida,
-                    chinchon ? " con chinchón" : "");
+        std::printf("[          ] semilla %u, %d jugadores: %d manos, gana Jugador%d%s\n", semilla,
+                    jugadores, NumeroMano, GanadorPartida, chinchon ? " con chinchón" : "");
     }
 }
 
@@ -177,6 +176,7 @@ TEST(ChinchonPartida, ThePersonPlaysWithTheMouse) {
     Fin fin;
     MesaDePrueba mesa;
     PreparaChinchon(4);
+    EstadoJugador[2] = EstadoJugador[3] = ESTADO_DESACTIVADO;
     ControlJugador[4] = CONTROL_MANUAL;
     CartasVisibles[4] = CARA_VISIBLE;
     LimitePartida = 30;
@@ -196,16 +196,19 @@ TEST(ChinchonPartida, ThePersonPlaysWithTheMouse) {
         }
         const int n = NumCartas[4][1];
         if (FaseJuego == FASE_CHINCHON_TOMA) {
-            const bool pozo = (delMazo + delPozo) % 2 == 1;
+            // The stock first, then the pile, then where the tutor would take from.
+            const bool pozo = delMazo == 0 ? false : delPozo == 0 || OrigenOrdenador == ROBO_POZO;
             const int x = (pozo ? PozoX : MazoX) + 40, y = (pozo ? PozoY : MazoY) + 70;
             EXPECT_EQ(pulsa(x, y), CURSOR_TOMAR);
             EXPECT_FALSE(EsperandoPersona);
             EXPECT_EQ(OrigenRobo, pozo ? ROBO_POZO : ROBO_MAZO);
             ++(pozo ? delPozo : delMazo);
         } else if (FaseJuego == FASE_CHINCHON_DESCARTE) {
-            PosicionCarta(4, n, n);
-            EXPECT_EQ(pulsa(CartaX + 50, CartaY + 70), CURSOR_JUGABLE);
-            EXPECT_EQ(CartaElegida, n);
+            // The card the tutor would throw, pointed at on its visible edge.
+            const int mejor = Candidatas[1][CAND_POSICION];
+            PosicionCarta(4, mejor, n);
+            EXPECT_EQ(pulsa(CartaX + 10, CartaY + 70), CURSOR_JUGABLE);
+            EXPECT_EQ(CartaElegida, mejor);
             ++descartes;
         } else if (FaseJuego == FASE_CHINCHON_DECIDE) {
             const CajaImagen& boton = Pic_Pulsador[PULSADOR_CERRAR];
