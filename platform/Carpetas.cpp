@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QStandardPaths>
 
 namespace {
@@ -13,9 +14,21 @@ QString ConSeparador(const QString& ruta) {
     return ruta + '/';
 }
 
+QString CarpetaDeDatos(const QString& carpetaBinario) {
+    const QString junto = ConSeparador(carpetaBinario);
+    if (QFile::exists(junto + "TRF32INI")) return junto;
+    const QString instalada = ConSeparador(QDir::cleanPath(junto + "../share/trufal"));
+    return QFile::exists(instalada + "TRF32INI") ? instalada : junto;
+}
+
 QString CarpetaDelPrograma() {
     if (!ProgramaFijado.isEmpty()) return ProgramaFijado;
-    return ConSeparador(QCoreApplication::applicationDirPath());
+    return CarpetaDeDatos(QCoreApplication::applicationDirPath());
+}
+
+bool ProgramaInstalado() {
+    return ProgramaFijado.isEmpty() &&
+           CarpetaDelPrograma() != ConSeparador(QCoreApplication::applicationDirPath());
 }
 
 QString CarpetaDatosUsuario() {

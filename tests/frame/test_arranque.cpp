@@ -76,6 +76,21 @@ TEST(Arranque, TheScreenTestAsksOnlyBelow800AndTheTableIsNeverSmaller) {
     ASSERT_EQ(MensajesVistos.size(), 1u);
     EXPECT_EQ(MensajesVistos[0].Titulo, "Resolución de pantalla");
     EXPECT_TRUE(MensajesVistos[0].Texto.contains("La resolución actual es de 640x480. Pulse"));
+    // Nothing changes the screen here: the text offers the table scaled, not a new mode.
+    EXPECT_TRUE(MensajesVistos[0].Texto.contains("abrir  la  mesa  reducida"));
+    EXPECT_FALSE(MensajesVistos[0].Texto.contains("cambiar"));
     EXPECT_EQ(MensajesVistos[0].Lineas, 6);
     EXPECT_EQ(MensajesVistos[0].Botones, 2);
+}
+
+TEST(Arranque, AnInstalledProgramFindsItsFilesInShareAndABuiltOneBesideItself) {
+    QTemporaryDir prefijo;
+    const QString bin = prefijo.path() + "/bin", datos = prefijo.path() + "/share/trufal/";
+    QDir().mkpath(bin);
+    QDir().mkpath(datos);
+    EXPECT_EQ(CarpetaDeDatos(bin), bin + "/") << "nothing anywhere: beside the program";
+    Escribe(datos + "TRF32INI", "plantilla");
+    EXPECT_EQ(CarpetaDeDatos(bin), datos);
+    Escribe(bin + "/TRF32INI", "plantilla"); // a build folder holds its own copy
+    EXPECT_EQ(CarpetaDeDatos(bin), bin + "/");
 }

@@ -80,6 +80,7 @@ QImage HojaFichas(double escala);
 QImage MascaraFicha(double escala);
 QImage HojaVario(double escala);
 QImage HojaBotones(double escala);
+QImage IconoPrograma(int lado); // the program's icon for the desktop, transparent around
 QImage HojaContr(double escala);
 QImage HojaNumeros(double escala);
 struct Cursor {

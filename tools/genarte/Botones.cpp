@@ -288,3 +288,17 @@ QImage HojaBotones(double escala) {
     PintaCara(p, 343, PASO, IconoAceptar);
     return hoja;
 }
+
+QImage IconoPrograma(int lado) {
+    QImage icono(lado, lado, QImage::Format_ARGB32);
+    icono.fill(Qt::transparent);
+    QPainter p(&icono);
+    PreparaPintor(p, lado / double(LADO));
+    // A corner of green baize with a back and an ace on it, as the table looks.
+    QPainterPath tapete;
+    tapete.addRoundedRect(QRectF(2, 2, 44, 44), 9, 9);
+    RellenaForma(p, tapete, QColor(0, 128, 0), 1.2);
+    Naipe(p, QPointF(19, 24), -14, true);
+    Naipe(p, QPointF(29, 25), 10, false);
+    return icono;
+}

@@ -29,7 +29,7 @@ void Guarda(const QImage& imagen, const QString& nombre) {
         w.setQuality(0); // for PNG this asks for the strongest compression
     }
     // Sheets without transparency are written opaque: the program only blits them.
-    const bool transparente = nombre.startsWith("cursores/");
+    const bool transparente = nombre.startsWith("cursores/") || nombre == "trufal.png";
     const QImage salida =
         imagen.convertToFormat(transparente ? QImage::Format_ARGB32 : QImage::Format_RGB32);
     if (!w.write(salida)) {
@@ -118,6 +118,7 @@ int main(int argc, char** argv) {
         Guarda(HojaContr(escala), "Contr" + Sufijo(escala) + ".png");
         Guarda(HojaNumeros(escala), "NumerosCristal" + Sufijo(escala) + ".png");
     }
+    Guarda(IconoPrograma(256), "trufal.png");
     // Pointers are written at their own size only: the windowing system scales them.
     for (const Cursor& c : Cursores(1.0)) {
         Guarda(c.Imagen, QString("cursores/%1.png").arg(c.Numero));
