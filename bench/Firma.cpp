@@ -35,6 +35,18 @@ std::vector<LineaFirma> LineasFirma() {
               OpcionComodines = 3;
               LimiteDescartes = 3;
           }}},
+        {{JUEGO_CHINCHON, 2, false, [] { LimitePartida = 30; }}},
+        {{JUEGO_CHINCHON, 3, false,
+          [] {
+              LimitePartida = 30;
+              TipoBarajaEspanola = 2;
+          }}},
+        {{JUEGO_CHINCHON, 4, false,
+          [] {
+              LimitePartida = 30;
+              AsOrosComodin = true;
+              CartasSiempreOrdenadas = true;
+          }}},
     };
 }
 

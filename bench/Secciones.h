@@ -12,3 +12,4 @@ double ManosPorSegundo(const MesaAutomatica& mesa, int manos);
 void BenchTuteBrisca();
 void BenchPoker();
 void BenchPokerMotor();
+void BenchChinchon();

@@ -23,6 +23,7 @@ int main(int argc, char** argv) {
         BenchPoker();
         std::printf("\n");
         BenchPokerMotor();
+        BenchChinchon();
         std::printf("\n");
     }
     const auto firmas = FirmasDeLosJuegos();

@@ -6,6 +6,7 @@
 #include "betting/Fichas.h"
 #include "frame/Baraja.h"
 #include "frame/Ficheros.h"
+#include "frame/GblChinchon.h"
 #include "frame/TrufalBas.h"
 #include "frame/TrufalGbl.h"
 #include "platform/Bomba.h"
@@ -43,6 +44,25 @@ void LimpiaMesaPartida() {
     Pic_Apostadora.Visible = false;
     Pic_Sugerencia.Visible = false;
     OcultaPulsadores();
+    RefrescaMesa();
+}
+
+// Chinchón: the hand's record starts empty, and the next card of the stock, face up, starts the
+// discard pile.
+void EmpiezaPozo() {
+    VaciaRegistroDescartes();
+    MazoRebarajado = 0;
+    RecibeDesde = 0;
+    if (CartasEnMazo <= 0) return;
+    const int palo = Baraja[PosicionMazo][CAMPO_PALO], valor = Baraja[PosicionMazo][CAMPO_VALOR];
+    ++PosicionMazo;
+    --CartasEnMazo;
+    DibujaMazo(MazoX, MazoY, CartasEnMazo);
+    MueveCarta(palo, valor, MazoX, MazoY, 1, CARA_VISIBLE, PozoX, PozoY + 13, 1, CARA_VISIBLE);
+    Pozo[1][CAMPO_PALO] = palo;
+    Pozo[1][CAMPO_VALOR] = valor;
+    CartasEnPozo = 1;
+    DibujaMazo(PozoX, PozoY, CartasEnPozo);
     RefrescaMesa();
 }
 
@@ -220,6 +240,7 @@ void NuevaMano() {
         AnularReparto = false; // the manual deal was given up: deal the hand again
         --NumeroMano;
     }
+    if (JuegoActual == JUEGO_CHINCHON) EmpiezaPozo();
     DibujaNombres();
     if (TurnoSalida == 2) EligeMano();
     ManoViva = true;

@@ -3,6 +3,7 @@
 
 #include "frame/TrufalGbl.h"
 #include "games/poker/Partida.h"
+#include "games/chinchon/Partida.h"
 #include "games/tutebrisca/Partida.h"
 #include "table/Dibujo.h"
 
@@ -16,6 +17,9 @@ void JuegaPartida() {
         break;
     case JUEGO_BRISCA:
         JuegaBrisca();
+        break;
+    case JUEGO_CHINCHON:
+        JuegaChinchon();
         break;
     // Each game's own driver takes its place here as it comes to the table.
     default:

@@ -4,6 +4,7 @@
 #include "frame/TrufalBas.h"
 #include "frame/TrufalGbl.h"
 #include "games/poker/Partida.h"
+#include "games/chinchon/Motor.h"
 #include "table/Dibujo.h"
 
 #include <array>
@@ -26,8 +27,7 @@ QString ClaveOrden(int palo, int valor) {
         return Formato(orden, "00") + Formato(palo, "0");
     }
     default:
-        // Cinquillo and Pumba by suit and value; Chinchón and Póker also read well so until
-        // their own order, by melds and by plays, is worked out by their games.
+        // Cinquillo and Pumba by suit and value; Póker too, for now.
         return Formato(palo, "0") + Formato(v, "00");
     }
 }
@@ -37,10 +37,22 @@ void OrdenaMano(int seat) {
     if (JuegoActual == JUEGO_POKER && OrdenaManoPoker(seat)) return;
     const int n = NumCartas[seat][SerieActual];
     if (n < 2) return;
+    // Chinchón: the melds first, in the order the engine found them, then the loose cards.
+    const bool porJugadas = JuegoActual == JUEGO_CHINCHON;
+    if (porJugadas) {
+        for (int p = 1; p <= n; ++p) {
+            ManoEvaluada[p][1] = CartasJugador[seat][SerieActual][p][CAMPO_PALO];
+            ManoEvaluada[p][2] = CartasJugador[seat][SerieActual][p][CAMPO_VALOR];
+        }
+        EvaluaMano(seat, n);
+    }
     Lis_Ordenar2.Limpia();
     for (int p = 1; p <= n; ++p) {
         const auto& c = CartasJugador[seat][SerieActual][p];
-        Lis_Ordenar2.Agrega(ClaveOrden(c[CAMPO_PALO], c[CAMPO_VALOR]), p);
+        const QString clave = porJugadas
+                                  ? Formato(PuestoEnJugada(c[CAMPO_PALO], c[CAMPO_VALOR]), "00")
+                                  : ClaveOrden(c[CAMPO_PALO], c[CAMPO_VALOR]);
+        Lis_Ordenar2.Agrega(clave, p);
     }
     std::vector<std::array<int, 6>> copia(n + 1);
     for (int p = 1; p <= n; ++p)

@@ -4,6 +4,7 @@
 
 #include "frame/Ciclo.h"
 #include "frame/TrufalGbl.h"
+#include "games/chinchon/Motor.h"
 #include "platform/Sonido.h"
 #include "table/DibujoComun.h"
 
@@ -172,7 +173,16 @@ void SenalaCarta(int seat, int posicion, int veces) {
 void MuestraMano(int seat, int serie) {
     const int desde = seat == 0 ? 1 : seat, hasta = seat == 0 ? 4 : seat;
     for (int s = desde; s <= hasta; ++s) {
+        // Chinchón, while the loose cards are laid off: a hand the others don't see shows its
+        // melds and keeps its loose cards covered.
+        const bool soloJugadas = JuegoActual == JUEGO_CHINCHON &&
+                                 FaseJuego == FASE_CHINCHON_CIERRE &&
+                                 CartasVisibles[s] == CARA_OCULTA;
+        if (soloJugadas) EvaluaManoDelSeat(s);
         for (int p = 1; p <= NumCartas[s][serie]; ++p) {
+            const auto& c = CartasJugador[s][serie][p];
+            if (soloJugadas && PuestoEnJugada(c[CAMPO_PALO], c[CAMPO_VALOR]) > CartasCombinadas())
+                continue;
             CartasJugador[s][serie][p][CAMPO_CARA] = CARA_VISIBLE;
             CartasJugador[s][serie][p][CAMPO_MARCA] = 0;
         }

@@ -7,6 +7,7 @@
 #include "betting/Fichas.h"
 #include "frame/Baraja.h"
 #include "frame/Ciclo.h"
+#include "frame/GblChinchon.h"
 #include "frame/TrufalGbl.h"
 #include "platform/Sonido.h"
 #include "table/Botonera.h"
@@ -45,6 +46,18 @@ bool FaseDeElegirCarta() {
 
 bool SobreMazo(int x, int y) {
     return x >= MazoX && x < MazoX + ANCHO_CARTA + 12 && y >= MazoY - 12 && y < MazoY + ALTO_CARTA;
+}
+
+// Chinchón: the stock or the pile under the point, as a place to take the turn's card from
+// (ROBO_MAZO, ROBO_POZO), or 0. Each is hit from 18 pixels to its left.
+int MontonBajo(int x, int y) {
+    auto dentro = [&](int mx, int my, int cuenta) {
+        return cuenta > 0 && x >= mx - 18 && x < mx + ANCHO_CARTA && y >= my &&
+               y < my + ALTO_CARTA + 13;
+    };
+    if (dentro(MazoX, MazoY, CartasEnMazo)) return ROBO_MAZO;
+    if (dentro(PozoX, PozoY, CartasEnPozo)) return ROBO_POZO;
+    return 0;
 }
 
 // The card of the hand hangs from the pointer as a small picture while it is dragged.
@@ -193,6 +206,8 @@ int FormaSobreCartas(int x, int y) {
     }
     // The stacks of the seat on turn, when it can stake them.
     if (forma != CURSOR_CAMBIAR && HallaFichaBajoPuntero(x, y) > 0) forma = CURSOR_INDICE;
+    if (EligiendoRobo && ManoViva && !OrdenManual && !AnularReparto && MontonBajo(x, y) != 0)
+        forma = CURSOR_TOMAR;
     if (OrdenManual) {
         if (ArrastrandoCarta)
             forma = 26;
@@ -280,6 +295,14 @@ void RehaceCandidatas(int seat) {
 }
 
 bool JugadaPermitida() {
+    // Chinchón, laying off: only a card that fits the receiver's melds.
+    if (JuegoActual == JUEGO_CHINCHON && FaseJuego == FASE_CHINCHON_CIERRE) {
+        const auto& c = CartasJugador[JugadorActual][SerieActual][CartaBajoPuntero];
+        const int id = IdCarta(c[CAMPO_PALO], c[CAMPO_VALOR]);
+        for (int i = 1; i <= NumCombinables; ++i)
+            if (CartasCombinables[i] == id) return true;
+        return false;
+    }
     const bool conCandidatas =
         (JuegoActual == JUEGO_TUTE && ObligacionActiva && JugadorActual != JugadorSalida) ||
         JuegoActual == JUEGO_CINQUILLO || JuegoActual == JUEGO_PUMBA;
@@ -328,6 +351,15 @@ void RatonPulsado(int x, int y, int boton, bool control) {
     }
     if (PersonaJugando && CursorActual == CURSOR_JUGABLE && !FichasActivas)
         return EligeCartaPersona();
+    if (EligiendoRobo && CursorActual == CURSOR_TOMAR && JuegoActual == JUEGO_CHINCHON) {
+        if (const int monton = MontonBajo(x, y)) {
+            OrigenRobo = monton;
+            JugadaHecha = true;
+            EsperandoPersona = false;
+            Sonido(SONIDO_ASINCRONO, SONIDO_CARTA_SALE);
+        }
+        return;
+    }
     if (CursorActual == CURSOR_CAMBIAR &&
         (JuegoActual == JUEGO_TUTE || JuegoActual == JUEGO_BRISCA)) {
         PideCambio = true;

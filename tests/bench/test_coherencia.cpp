@@ -44,6 +44,25 @@ TEST(Coherencia, TuteYBriscaNoPierdenNiDuplicanCartas) {
     }
 }
 
+TEST(Coherencia, ChinchonNoPierdeNiDuplicaCartas) {
+    MesaDePrueba mesa;
+    PreparaMesaAutomatica(mesa.Carpeta.path());
+    const MesaAutomatica tipos[] = {
+        {JUEGO_CHINCHON, 2, false, [] { LimitePartida = 6; }},
+        {JUEGO_CHINCHON, 4, false,
+         [] {
+             LimitePartida = 6;
+             TipoBarajaEspanola = 2;
+             CartasSiempreOrdenadas = true;
+         }},
+    };
+    unsigned semilla = 1;
+    for (const MesaAutomatica& tipo : tipos) {
+        EXPECT_GE(JuegaConComprobacion(tipo, semilla), PARTIDAS);
+        semilla += PARTIDAS;
+    }
+}
+
 // The check sees a lost card and a card that is twice on the table.
 TEST(Coherencia, VeUnaCartaPerdidaOQueEstaDosVeces) {
     MesaDePrueba mesa;
