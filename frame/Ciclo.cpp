@@ -8,6 +8,7 @@
 #include "frame/Ficheros.h"
 #include "frame/TrufalBas.h"
 #include "frame/TrufalGbl.h"
+#include "games/mus/Mus.h"
 #include "platform/Bomba.h"
 #include "platform/Reloj.h"
 #include "platform/Sonido.h"
@@ -133,7 +134,7 @@ void NuevaPartida() {
             RecomponeFichas(s, s == 0 || EstadoJugador[s] == ESTADO_DESACTIVADO ? 0 : RestoInicial);
         break;
     case JUEGO_MUS:
-        Piedras[0] = 25;
+        PreparaPartidaMus(); // the heap of 25 stones, laid at random, and empty tallies
         break;
     default:
         break;
@@ -218,6 +219,11 @@ void NuevaMano() {
         if (!AnularReparto) break;
         AnularReparto = false; // the manual deal was given up: deal the hand again
         --NumeroMano;
+    }
+    if (JuegoActual == JUEGO_MUS) {
+        // The stock stays in the middle for the discards; the lances and signs start afresh.
+        DibujaMazo(MazoX, MazoY, CartasEnMazo);
+        PreparaManoMus();
     }
     DibujaNombres();
     if (TurnoSalida == 2) EligeMano();

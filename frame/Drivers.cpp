@@ -2,6 +2,7 @@
 #include "frame/Ciclo.h"
 
 #include "frame/TrufalGbl.h"
+#include "games/mus/Mus.h"
 #include "games/tutebrisca/Partida.h"
 #include "table/Dibujo.h"
 
@@ -12,6 +13,9 @@ void JuegaPartida() {
         break;
     case JUEGO_BRISCA:
         JuegaBrisca();
+        break;
+    case JUEGO_MUS:
+        JuegaMus();
         break;
     // Each game's own driver takes its place here as it comes to the table.
     default:

@@ -301,6 +301,8 @@ void RatonPulsado(int x, int y, int boton, bool control) {
     if (indice == 9) return PulsaContinuar();
     if (indice > 0) return PulsaBoton(indice);
     if (const int pulsador = PulsadorBajo(x, y)) return PulsaPulsador(pulsador);
+    if (Dentro(Pic_Apostadora, x, y) && RutinaApostadora[JuegoActual])
+        return RutinaApostadora[JuegoActual](x - Pic_Apostadora.X, y - Pic_Apostadora.Y);
 
     if (AnularReparto) return PulsaEnRepartoManual(x, y, control);
     if (OrdenManual && CursorActual == CURSOR_TOMAR) {

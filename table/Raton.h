@@ -23,6 +23,9 @@ bool JugadaPermitida();
 // The chooser of the game in play, by game code, that lists the person's legal cards anew in
 // Candidatas once the person has put the hand in another order at their own turn.
 inline std::function<void()> RutinaCandidatas[60];
+// The betting panel of the game in play, by game code: a press at a point of the panel, in the
+// panel's own pixels.
+inline std::function<void(int x, int y)> RutinaApostadora[60];
 // After the seat's hand was reordered: on the person's own turn, its legal cards are listed again
 // for the new positions.
 void RehaceCandidatas(int seat);
