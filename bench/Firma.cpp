@@ -21,6 +21,16 @@ std::vector<LineaFirma> LineasFirma() {
         {{JUEGO_BRISCA, 2, false, [] { LimitePartida = 2; }}},
         {{JUEGO_BRISCA, 3, false, [] { LimitePartida = 2; }}},
         {{JUEGO_BRISCA, 4, true, [] { LimitePartida = 2; }}},
+        {{JUEGO_MUS, 4, true,
+          [] {
+              TipoMus = 1;
+              JuegosPartidaMus = 1;
+          }}},
+        {{JUEGO_MUS, 4, true,
+          [] {
+              TipoMus = 2;
+              JuegosPartidaMus = 1;
+          }}},
     };
 }
 

@@ -10,3 +10,4 @@ double SegundosDeProceso();
 double ManosPorSegundo(const MesaAutomatica& mesa, int manos);
 
 void BenchTuteBrisca();
+void BenchMus();

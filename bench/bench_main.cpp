@@ -20,6 +20,8 @@ int main(int argc, char** argv) {
     if (!soloFirmas) {
         BenchTuteBrisca();
         std::printf("\n");
+        BenchMus();
+        std::printf("\n");
     }
     const auto firmas = FirmasDeLosJuegos();
     if (!soloFirmas) std::printf("Firmas de los juegos (bench/firmas.txt):\n");

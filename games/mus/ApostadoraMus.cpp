@@ -10,6 +10,7 @@
 #include "table/Dibujo.h"
 #include "table/DibujoComun.h"
 #include "table/Raton.h"
+#include "table/Sugerencia.h"
 
 #include <QGuiApplication>
 #include <QPainter>
@@ -44,7 +45,11 @@ void PintaBoton(QPainter& p, const BotonVisible& b) {
     p.setBrush(g);
     p.setPen(QPen(QColor(70, 40, 10), 1));
     p.drawRoundedRect(QRectF(b.Caja).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
-    p.setFont(LetraMesa(b.Boton == BOTON_MAS || b.Boton == BOTON_MENOS ? 16 : 11));
+    // A pair of answers shares a row, so each takes a smaller letter to fit its half.
+    const int letra = b.Boton == BOTON_MAS || b.Boton == BOTON_MENOS ? 16
+                      : b.Caja.width() < 100                         ? 9
+                                                                     : 11;
+    p.setFont(LetraMesa(letra));
     p.setPen(QColor(255, 255, 255));
     p.drawText(b.Caja.translated(-1, -1), Qt::AlignCenter, b.Texto);
     p.setPen(QColor(40, 20, 0));
@@ -182,7 +187,8 @@ void DibujaApostadoraMus() {
     ColocaBotones();
     PintaPanel();
     Pic_Apostadora.X = std::max(0, ZonaIzquierda[4] - ANCHO_PANEL - 12);
-    Pic_Apostadora.Y = AltoVentana - ALTO_PANEL - 4;
+    // Above the information pane of the corner, so that neither hides the other.
+    Pic_Apostadora.Y = AltoVentana - ALTO_SUGERENCIA - ALTO_PANEL - 4;
     Pic_Apostadora.Visible = true;
     RefrescaMesa();
 }

@@ -12,11 +12,12 @@ namespace {
 constexpr int PARTIDAS = 60;
 
 // Plays the matches with the check on; returns the hands played.
-int JuegaConComprobacion(const MesaAutomatica& tipo, unsigned primeraSemilla) {
+int JuegaConComprobacion(const MesaAutomatica& tipo, unsigned primeraSemilla,
+                         int partidas = PARTIDAS) {
     const bool antes = ComprobarCoherencia;
     ComprobarCoherencia = true;
     int manos = 0;
-    for (unsigned semilla = primeraSemilla; semilla < primeraSemilla + PARTIDAS; ++semilla) {
+    for (unsigned semilla = primeraSemilla; semilla < primeraSemilla + partidas; ++semilla) {
         PreparaPartidaAutomatica(tipo);
         manos += JuegaPartidaAutomatica(semilla);
         QString fallo;
@@ -36,6 +37,26 @@ TEST(Coherencia, TuteYBriscaNoPierdenNiDuplicanCartas) {
         {JUEGO_TUTE, 4, true, [] { LimitePartida = 2; }},
         {JUEGO_BRISCA, 3, false, [] { LimitePartida = 2; }},
         {JUEGO_BRISCA, 4, false, [] { LimitePartida = 2; }},
+    };
+    unsigned semilla = 1;
+    for (const MesaAutomatica& tipo : tipos) {
+        EXPECT_GT(JuegaConComprobacion(tipo, semilla), PARTIDAS);
+        semilla += PARTIDAS;
+    }
+}
+
+// In the Mus the discards go round through the stock again, and the 25 stones only move between
+// the heap and the tallies.
+TEST(Coherencia, MusNoPierdeCartasNiPiedras) {
+    MesaDePrueba mesa;
+    PreparaMesaAutomatica(mesa.Carpeta.path());
+    const MesaAutomatica tipos[] = {
+        {JUEGO_MUS, 4, true, [] { TipoMus = 1; }},
+        {JUEGO_MUS, 4, true,
+         [] {
+             TipoMus = 2;
+             PiedrasJuego = 20;
+         }},
     };
     unsigned semilla = 1;
     for (const MesaAutomatica& tipo : tipos) {
