@@ -6,6 +6,7 @@
 #include "frame/Baraja.h"
 #include "frame/TrufalGbl.h"
 #include "games/mus/Mus.h"
+#include "platform/CajaImagen.h"
 
 namespace {
 
