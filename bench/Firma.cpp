@@ -47,6 +47,16 @@ std::vector<LineaFirma> LineasFirma() {
               AsOrosComodin = true;
               CartasSiempreOrdenadas = true;
           }}},
+        {{JUEGO_MUS, 4, true,
+          [] {
+              TipoMus = 1;
+              JuegosPartidaMus = 1;
+          }}},
+        {{JUEGO_MUS, 4, true,
+          [] {
+              TipoMus = 2;
+              JuegosPartidaMus = 1;
+          }}},
     };
 }
 

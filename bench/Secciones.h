@@ -13,3 +13,4 @@ void BenchTuteBrisca();
 void BenchPoker();
 void BenchPokerMotor();
 void BenchChinchon();
+void BenchMus();

@@ -24,6 +24,7 @@ int main(int argc, char** argv) {
         std::printf("\n");
         BenchPokerMotor();
         BenchChinchon();
+        BenchMus();
         std::printf("\n");
     }
     const auto firmas = FirmasDeLosJuegos();

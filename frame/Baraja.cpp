@@ -5,6 +5,7 @@
 #include "frame/TrufalBas.h"
 #include "frame/TrufalGbl.h"
 #include "games/poker/Evaluacion.h"
+#include "games/mus/Mus.h"
 #include "table/Dibujo.h"
 
 namespace {
@@ -96,6 +97,10 @@ FormaBaraja FormaMus() {
     const int fila = TipoMus == 1 ? 0 : 1;
     for (int v = 1; v <= 12; ++v) PuntosValor[v] = Puntos[fila][v];
     ModalidadPareja = 2;
+    static const char* const Lances[6] = {"", "Grandes", "Chicas", "Pares", "Juego", "Punto"};
+    for (int l = 1; l <= 5; ++l) NombreLance[l] = QString::fromUtf8(Lances[l]);
+    // The table of every hand follows the counts of the cards just set.
+    GeneraCombinacionesMus();
     return {BARAJA_ESPANOLA, 4, 1, 4};
 }
 

@@ -9,6 +9,7 @@
 #include "frame/GblChinchon.h"
 #include "frame/TrufalBas.h"
 #include "frame/TrufalGbl.h"
+#include "games/mus/Mus.h"
 #include "platform/Bomba.h"
 #include "platform/Reloj.h"
 #include "platform/Sonido.h"
@@ -153,7 +154,7 @@ void NuevaPartida() {
             RecomponeFichas(s, s == 0 || EstadoJugador[s] == ESTADO_DESACTIVADO ? 0 : RestoInicial);
         break;
     case JUEGO_MUS:
-        Piedras[0] = 25;
+        PreparaPartidaMus(); // the heap of 25 stones, laid at random, and empty tallies
         break;
     default:
         break;
@@ -241,6 +242,11 @@ void NuevaMano() {
         --NumeroMano;
     }
     if (JuegoActual == JUEGO_CHINCHON) EmpiezaPozo();
+    if (JuegoActual == JUEGO_MUS) {
+        // The stock stays in the middle for the discards; the lances and signs start afresh.
+        DibujaMazo(MazoX, MazoY, CartasEnMazo);
+        PreparaManoMus();
+    }
     DibujaNombres();
     if (TurnoSalida == 2) EligeMano();
     ManoViva = true;

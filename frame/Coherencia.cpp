@@ -7,6 +7,8 @@
 
 namespace {
 
+constexpr int PIEDRAS_MESA_MUS = 25;
+
 bool JuegoDeDinero() {
     return JuegoActual == JUEGO_POKER || JuegoActual == JUEGO_BLACKJACK ||
            JuegoActual == JUEGO_SIETEYMEDIA;
@@ -72,6 +74,15 @@ bool MesaCoherente(QString* fallo) {
                                  .arg(cuenta.Veces[palo][valor])
                                  .arg(esperadas));
         }
+    // In Mus the stones only move between the heap, the loose stones and the amarracos.
+    if (JuegoActual == JUEGO_MUS) {
+        int piedras = 0;
+        for (int s = 0; s <= 4; ++s) piedras += Piedras[s];
+        if (piedras != PIEDRAS_MESA_MUS)
+            return falla(QStringLiteral("hay %1 piedras en la mesa, no %2")
+                             .arg(piedras)
+                             .arg(PIEDRAS_MESA_MUS));
+    }
     if (JuegoDeDinero()) {
         for (int s = 0; s <= 4; ++s)
             for (int d = 1; d <= 6; ++d)

@@ -4,6 +4,7 @@
 #include "frame/TrufalGbl.h"
 #include "games/poker/Partida.h"
 #include "games/chinchon/Partida.h"
+#include "games/mus/Mus.h"
 #include "games/tutebrisca/Partida.h"
 #include "table/Dibujo.h"
 
@@ -20,6 +21,8 @@ void JuegaPartida() {
         break;
     case JUEGO_CHINCHON:
         JuegaChinchon();
+    case JUEGO_MUS:
+        JuegaMus();
         break;
     // Each game's own driver takes its place here as it comes to the table.
     default:

@@ -39,6 +39,13 @@ inline QString TextoMensaje;
 inline bool ObligacionActiva = false;
 inline bool TuteCantado = false;
 inline bool OrdagoEnJuego = false; // Mus: an órdago was accepted and the hand is shown
+// Mus: what the buttons beside the person's cards need to know of the lance in play.
+inline int LanceActual = 0;           // 1 Grandes to 5 Punto
+inline bool RondaDeclaracion = false; // each seat says whether it holds Pares or Juego
+inline bool TieneLanceTurno = false;  // the seat on turn holds the lance in play
+inline bool CompaneroEnLance = false; // its partner still has a say in this lance
+inline bool OrdenCortar[5] = {};      // the person's order to the partner: cut the mus
+inline bool OrdenEnvidar[5] = {};     // the person's order to the partner: envidar
 
 // The cards a chooser leaves for a turn, in the order it works with.
 constexpr int CAND_CLAVE = 1, CAND_POSICION = 2;

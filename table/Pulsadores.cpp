@@ -67,6 +67,16 @@ bool SkinDeLamina(QImage& imagen, bool pulsado) {
     return true;
 }
 
+// Mus: mus or no mus in its round; "Si hay" and "No hay" while each says whether it holds the
+// lance; the order to the partner in the round of mus, and in a lance the partner still plays.
+void DecidePulsadoresMus(bool quiere[103]) {
+    if (FaseJuego == FASE_MUS_MUS) quiere[PULSADOR_MUS] = quiere[PULSADOR_NO_MUS] = true;
+    const bool declarando = FaseJuego == FASE_MUS_ENVITE && RondaDeclaracion;
+    if (declarando && DetallarPasos) quiere[PULSADOR_SI_HAY] = quiere[PULSADOR_NO_HAY] = true;
+    const bool enLance = FaseJuego == FASE_MUS_ENVITE && !declarando && CompaneroEnLance;
+    if (LanceActual <= 5 && (FaseJuego == FASE_MUS_MUS || enLance)) quiere[PULSADOR_MANDO] = true;
+}
+
 } // namespace
 
 void IniciaEtiquetas() {
@@ -121,8 +131,7 @@ void DecidePulsadores(int seat, bool quiere[103]) {
     if (JuegoActual == JUEGO_MUS && eligiendo) quiere[PULSADOR_DESCARTO] = HayCartaElegida(seat);
     if (JuegoActual == JUEGO_CHINCHON && FaseJuego == 3 && ManoViva && PuedeCerrar)
         quiere[PULSADOR_CERRAR] = quiere[PULSADOR_SEGUIR] = true;
-    if (JuegoActual == JUEGO_MUS && FaseJuego == 1 && ManoViva)
-        quiere[PULSADOR_MUS] = quiere[PULSADOR_NO_MUS] = true;
+    if (JuegoActual == JUEGO_MUS && ManoViva) DecidePulsadoresMus(quiere);
     if (!FraseJugador[seat][SerieActual].isEmpty())
         quiere[PULSADOR_DOBLAR] = quiere[PULSADOR_SEGURO] = quiere[PULSADOR_MANDO] = false;
 }
@@ -242,11 +251,17 @@ void PulsaPulsador(int indice) {
     case PULSADOR_NO_MUS:
         termina(PulsoCorte);
         break;
+    // In Mus "Si hay" and "No hay" are taken only when they tell the truth.
     case PULSADOR_SI_HAY:
-        termina(PulsoSi);
+        if (JuegoActual != JUEGO_MUS || TieneLanceTurno) termina(PulsoSi);
         break;
     case PULSADOR_NO_HAY:
-        termina(PulsoNo);
+        if (JuegoActual != JUEGO_MUS || !TieneLanceTurno) termina(PulsoNo);
+        break;
+    case PULSADOR_MANDO:
+        if (JuegoActual != JUEGO_MUS) break;
+        if (FaseJuego == FASE_MUS_MUS) OrdenCortar[JugadorActual] = true;
+        if (FaseJuego == FASE_MUS_ENVITE) OrdenEnvidar[JugadorActual] = true;
         break;
     default:
         break;

@@ -12,11 +12,12 @@ namespace {
 constexpr int PARTIDAS = 60;
 
 // Plays the matches with the check on; returns the hands played.
-int JuegaConComprobacion(const MesaAutomatica& tipo, unsigned primeraSemilla) {
+int JuegaConComprobacion(const MesaAutomatica& tipo, unsigned primeraSemilla,
+                         int partidas = PARTIDAS) {
     const bool antes = ComprobarCoherencia;
     ComprobarCoherencia = true;
     int manos = 0;
-    for (unsigned semilla = primeraSemilla; semilla < primeraSemilla + PARTIDAS; ++semilla) {
+    for (unsigned semilla = primeraSemilla; semilla < primeraSemilla + partidas; ++semilla) {
         PreparaPartidaAutomatica(tipo);
         manos += JuegaPartidaAutomatica(semilla);
         QString fallo;
@@ -60,6 +61,27 @@ TEST(Coherencia, ChinchonNoPierdeNiDuplicaCartas) {
     for (const MesaAutomatica& tipo : tipos) {
         EXPECT_GE(JuegaConComprobacion(tipo, semilla), PARTIDAS);
         semilla += PARTIDAS;
+    }
+}
+
+// In the Mus the discards go round through the stock again, and the 25 stones only move between
+// the heap and the tallies. A Mus match is long: a few of them.
+TEST(Coherencia, MusNoPierdeCartasNiPiedras) {
+    MesaDePrueba mesa;
+    PreparaMesaAutomatica(mesa.Carpeta.path());
+    const MesaAutomatica tipos[] = {
+        {JUEGO_MUS, 4, true, [] { TipoMus = 1; }},
+        {JUEGO_MUS, 4, true,
+         [] {
+             TipoMus = 2;
+             PiedrasJuego = 20;
+         }},
+    };
+    constexpr int PARTIDAS_MUS = 4;
+    unsigned semilla = 1;
+    for (const MesaAutomatica& tipo : tipos) {
+        EXPECT_GT(JuegaConComprobacion(tipo, semilla, PARTIDAS_MUS), PARTIDAS_MUS);
+        semilla += PARTIDAS_MUS;
     }
 }
 
