@@ -7,3 +7,5 @@
 double ManosPorSegundo(const MesaAutomatica& mesa, int manos);
 
 void BenchTuteBrisca();
+void BenchCinquillo();
+void BenchPumba();

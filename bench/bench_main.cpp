@@ -20,6 +20,9 @@ int main(int argc, char** argv) {
     if (!soloFirmas) {
         BenchTuteBrisca();
         std::printf("\n");
+        BenchCinquillo();
+        BenchPumba();
+        std::printf("\n");
     }
     const auto firmas = FirmasDeLosJuegos();
     if (!soloFirmas) std::printf("Firmas de los juegos (bench/firmas.txt):\n");

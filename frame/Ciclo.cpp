@@ -8,6 +8,7 @@
 #include "frame/Ficheros.h"
 #include "frame/TrufalBas.h"
 #include "frame/TrufalGbl.h"
+#include "games/pumba/PartidaPumba.h"
 #include "platform/Bomba.h"
 #include "platform/Reloj.h"
 #include "platform/Sonido.h"
@@ -219,6 +220,8 @@ void NuevaMano() {
         AnularReparto = false; // the manual deal was given up: deal the hand again
         --NumeroMano;
     }
+    // Pumba turns up the first card on the pile and shows the button to say the word.
+    if (JuegoActual == JUEGO_PUMBA) PreparaManoPumba();
     DibujaNombres();
     if (TurnoSalida == 2) EligeMano();
     ManoViva = true;
@@ -432,6 +435,9 @@ void PreparaPosponer() {
         AnularReparto = false;
         ManoViva = false;
     }
+    // A Pumba hand left reversed is dealt again in the sense of the match: the leader is moved
+    // back by it.
+    if (JuegoActual == JUEGO_PUMBA) PasoSentidoPumba = PasoSentido;
 }
 
 void TerminaPrograma() {

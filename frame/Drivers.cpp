@@ -2,6 +2,8 @@
 #include "frame/Ciclo.h"
 
 #include "frame/TrufalGbl.h"
+#include "games/cinquillo/PartidaCinquillo.h"
+#include "games/pumba/PartidaPumba.h"
 #include "games/tutebrisca/Partida.h"
 #include "table/Dibujo.h"
 
@@ -12,6 +14,12 @@ void JuegaPartida() {
         break;
     case JUEGO_BRISCA:
         JuegaBrisca();
+        break;
+    case JUEGO_CINQUILLO:
+        JuegaCinquillo();
+        break;
+    case JUEGO_PUMBA:
+        JuegaPumba();
         break;
     // Each game's own driver takes its place here as it comes to the table.
     default:

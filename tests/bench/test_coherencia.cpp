@@ -44,6 +44,24 @@ TEST(Coherencia, TuteYBriscaNoPierdenNiDuplicanCartas) {
     }
 }
 
+// Cinquillo deals the whole deck and lays it out; Pumba keeps a stock that runs out, a pile, and
+// seats that leave the match by their points.
+TEST(Coherencia, CinquilloYPumbaNoPierdenNiDuplicanCartas) {
+    MesaDePrueba mesa;
+    PreparaMesaAutomatica(mesa.Carpeta.path());
+    const MesaAutomatica tipos[] = {
+        {JUEGO_CINQUILLO, 4, false, [] { LimitePartida = 2; }},
+        {JUEGO_PUMBA, 2, false, nullptr},
+        {JUEGO_PUMBA, 3, false, nullptr},
+        {JUEGO_PUMBA, 4, false, nullptr},
+    };
+    unsigned semilla = 1;
+    for (const MesaAutomatica& tipo : tipos) {
+        EXPECT_GT(JuegaConComprobacion(tipo, semilla), PARTIDAS);
+        semilla += PARTIDAS;
+    }
+}
+
 // The check sees a lost card and a card that is twice on the table.
 TEST(Coherencia, VeUnaCartaPerdidaOQueEstaDosVeces) {
     MesaDePrueba mesa;
