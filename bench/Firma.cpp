@@ -22,9 +22,9 @@ std::vector<LineaFirma> LineasFirma() {
         {{JUEGO_BRISCA, 3, false, [] { LimitePartida = 2; }}},
         {{JUEGO_BRISCA, 4, true, [] { LimitePartida = 2; }}},
         {{JUEGO_CINQUILLO, 4, false, [] { LimitePartida = 2; }}},
-        {{JUEGO_PUMBA, 2, false, nullptr}},
-        {{JUEGO_PUMBA, 3, false, nullptr}},
-        {{JUEGO_PUMBA, 4, false, nullptr}},
+        {{JUEGO_PUMBA, 2, false, [] { LimitePartida = 15; }}},
+        {{JUEGO_PUMBA, 3, false, [] { LimitePartida = 15; }}},
+        {{JUEGO_PUMBA, 4, false, [] { LimitePartida = 15; }}},
     };
 }
 

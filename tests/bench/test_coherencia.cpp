@@ -51,9 +51,8 @@ TEST(Coherencia, CinquilloYPumbaNoPierdenNiDuplicanCartas) {
     PreparaMesaAutomatica(mesa.Carpeta.path());
     const MesaAutomatica tipos[] = {
         {JUEGO_CINQUILLO, 4, false, [] { LimitePartida = 2; }},
-        {JUEGO_PUMBA, 2, false, nullptr},
-        {JUEGO_PUMBA, 3, false, nullptr},
-        {JUEGO_PUMBA, 4, false, nullptr},
+        {JUEGO_PUMBA, 2, false, [] { LimitePartida = 15; }},
+        {JUEGO_PUMBA, 4, false, [] { LimitePartida = 15; }},
     };
     unsigned semilla = 1;
     for (const MesaAutomatica& tipo : tipos) {

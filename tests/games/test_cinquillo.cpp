@@ -176,28 +176,6 @@ TEST(Cinquillo, TheEndOfAHandScoresTheCardsLeftInHand) {
     PartidaViva = false;
 }
 
-// The layout stands in four columns around the middle, the Rey at the top and the As at the
-// bottom; on a short table the rows overlap more and a card not yet covered from above rises.
-TEST(Cinquillo, TheLayoutStandsInFourColumnsFromTheReyDown) {
-    const struct {
-        int ancho, alto, palo, valor;
-        std::vector<Carta> layout;
-        int x, y;
-    } casos[] = {
-        {1024, 768, OROS, 12, {}, 253, 165},         {1024, 768, COPAS, 7, {}, 359, 264},
-        {1024, 768, BASTOS, 1, {}, 571, 462},        {1024, 768, ESPADAS, 5, {}, 465, 330},
-        {800, 600, OROS, 7, {{OROS, 10}}, 163, 208}, {800, 600, OROS, 7, {}, 163, 199},
-        {800, 600, OROS, 5, {}, 163, 236},           {800, 600, OROS, 5, {{OROS, 4}}, 163, 227},
-    };
-    for (const auto& c : casos) {
-        MesaDePrueba mesa(c.ancho, c.alto);
-        PonLayout(c.layout);
-        PosicionCinquillo(c.palo, c.valor);
-        EXPECT_EQ(CartaX, c.x) << c.ancho << " " << c.palo << " " << c.valor;
-        EXPECT_EQ(CartaY, c.y) << c.ancho << " " << c.palo << " " << c.valor;
-    }
-}
-
 // The person at seat 4 plays whole matches: a click on a card the layout refuses is not taken,
 // and each turn ends with a card laid, by a click or by a key that lets the computer lay it.
 // The person is never asked to play without a legal card, and passes in silence.
@@ -208,8 +186,7 @@ TEST(Cinquillo, ThePersonLaysACardAtEachTurnAndPassesOnlyWithoutOne) {
     ControlJugador[4] = CONTROL_MANUAL;
     CartasVisibles[4] = CARA_VISIBLE;
     LimitePartida = 2;
-    int turnos = 0, rechazos = 0, teclas = 0, cartasAntes = 0, pasesVistos = 0;
-    int vueltaAnterior = 0, manoAnterior = 0;
+    int turnos = 0, rechazos = 0, teclas = 0;
     PersonaGuionada = [&] {
         if (!EsperandoPersona) return;
         if (!ManoViva || JugadorActual != 4) {
@@ -218,11 +195,6 @@ TEST(Cinquillo, ThePersonLaysACardAtEachTurnAndPassesOnlyWithoutOne) {
         }
         ++turnos;
         EXPECT_GT(NumCandidatas, 0) << "the person waits only with a card to lay";
-        // A lap the person sat out: the row of the last lap holds no card of seat 4.
-        if (manoAnterior == NumeroMano && NumeroBaza > vueltaAnterior + 1) ++pasesVistos;
-        manoAnterior = NumeroMano;
-        vueltaAnterior = NumeroBaza;
-        cartasAntes = NumCartas[4][1];
         if (turnos % 3 == 0) {
             ++teclas;
             TeclaMesa(Qt::Key_Space, false);
@@ -255,10 +227,8 @@ TEST(Cinquillo, ThePersonLaysACardAtEachTurnAndPassesOnlyWithoutOne) {
     EXPECT_EQ(jugadas, turnos) << "each wait of the person laid one card of seat 4";
     EXPECT_GT(rechazos, 0);
     EXPECT_GT(teclas, 0);
-    EXPECT_GT(pasesVistos, 0) << "the person sat out a lap without a card to lay";
-    std::printf("[          ] %d turnos, %d clics rechazados, %d por tecla, %d vueltas sin carta\n",
-                turnos, rechazos, teclas, pasesVistos);
-    (void)cartasAntes;
+    std::printf("[          ] %d turnos, %d clics rechazados, %d por tecla\n", turnos, rechazos,
+                teclas);
 }
 
 // Whole automatic matches: each hand has one winner, who collects the others' points, and the
