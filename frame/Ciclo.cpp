@@ -144,6 +144,7 @@ void NuevaPartida() {
 
 void AbreJuego() {
     LeeJuego();
+    ReversosReducidos(); // the small backs of won tricks follow this game's backs
     ParametrosJuego();
     ColocaMazo();
     ColocaTriunfo();
@@ -327,8 +328,7 @@ void EligeMano() {
 }
 
 void FinPartida() {
-    // Pairs play only with four seats.
-    if (ModalidadPareja == 1 || NumJugadores != 4) {
+    if (ModalidadPareja == 1) {
         TextoMensaje = SaltoLinea;
         if (GanadorPartida == 4)
             TextoMensaje += NombreJugador[4] + ", has ganado la partida. ";
