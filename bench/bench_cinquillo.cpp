@@ -1,8 +1,10 @@
-// Figures of the Cinquillo: automatic hands per second, and the hands each level wins.
+// Figures of the Cinquillo: automatic hands per second, with the table drawn and with the game
+// alone, and the hands each level wins.
 #include <cstdio>
 
 #include "bench/Secciones.h"
 #include "frame/TrufalGbl.h"
+#include "platform/CajaImagen.h"
 
 namespace {
 
@@ -25,8 +27,13 @@ void ManosGanadasPorNivel() {
 } // namespace
 
 void BenchCinquillo() {
-    std::printf("Manos automáticas por segundo (pausas a cero, sin vuelos, mesa sin ventana):\n");
-    std::printf("  Cinquillo 4 jugadores: %8.1f\n",
-                ManosPorSegundo({JUEGO_CINQUILLO, 4, false, [] { LimitePartida = 5; }}, 2000));
+    std::printf("Cinquillo y Pumba, manos automáticas por segundo con la mesa pintada y con el "
+                "juego solo:\n");
+    const MesaAutomatica mesa{JUEGO_CINQUILLO, 4, false, [] { LimitePartida = 5; }};
+    const double pintada = ManosPorSegundo(mesa, 2000);
+    PinturaOmitida = true;
+    const double sola = ManosPorSegundo(mesa, 2000);
+    PinturaOmitida = false;
+    std::printf("  Cinquillo 4 jugadores: %8.1f %8.1f\n", pintada, sola);
     ManosGanadasPorNivel();
 }

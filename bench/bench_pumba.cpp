@@ -4,6 +4,7 @@
 
 #include "bench/Secciones.h"
 #include "frame/TrufalGbl.h"
+#include "platform/CajaImagen.h"
 
 namespace {
 
@@ -26,8 +27,13 @@ void PartidasGanadasPorNivel() {
 } // namespace
 
 void BenchPumba() {
-    for (int jugadores = 2; jugadores <= 4; ++jugadores)
-        std::printf("  Pumba     %d jugadores: %8.1f\n", jugadores,
-                    ManosPorSegundo({JUEGO_PUMBA, jugadores, false, nullptr}, 2000));
+    for (int jugadores = 2; jugadores <= 4; ++jugadores) {
+        const MesaAutomatica mesa{JUEGO_PUMBA, jugadores, false, nullptr};
+        const double pintada = ManosPorSegundo(mesa, 2000);
+        PinturaOmitida = true;
+        const double sola = ManosPorSegundo(mesa, 2000);
+        PinturaOmitida = false;
+        std::printf("  Pumba     %d jugadores: %8.1f %8.1f\n", jugadores, pintada, sola);
+    }
     PartidasGanadasPorNivel();
 }
