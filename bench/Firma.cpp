@@ -57,6 +57,10 @@ std::vector<LineaFirma> LineasFirma() {
               TipoMus = 2;
               JuegosPartidaMus = 1;
           }}},
+        {{JUEGO_CINQUILLO, 4, false, [] { LimitePartida = 2; }}},
+        {{JUEGO_PUMBA, 2, false, [] { LimitePartida = 15; }}},
+        {{JUEGO_PUMBA, 3, false, [] { LimitePartida = 15; }}},
+        {{JUEGO_PUMBA, 4, false, [] { LimitePartida = 15; }}},
     };
 }
 

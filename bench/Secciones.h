@@ -14,3 +14,5 @@ void BenchPoker();
 void BenchPokerMotor();
 void BenchChinchon();
 void BenchMus();
+void BenchCinquillo();
+void BenchPumba();

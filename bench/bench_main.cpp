@@ -23,8 +23,10 @@ int main(int argc, char** argv) {
         BenchPoker();
         std::printf("\n");
         BenchPokerMotor();
-        BenchChinchon();
-        BenchMus();
+        for (void (*seccion)() : {BenchChinchon, BenchMus, BenchCinquillo, BenchPumba}) {
+            std::printf("\n");
+            seccion();
+        }
         std::printf("\n");
     }
     const auto firmas = FirmasDeLosJuegos();

@@ -13,6 +13,7 @@ inline int NumGanadores = 0;       // seats that share the best hand
 inline int FichaBajoPuntero = 0;   // the denomination of the seat's stack under the pointer, or 0
 inline int JugadorMaxApuesta = 0;  // the seat whose stake is the highest of the round, 0 none
 inline int ApuestaAnunciada = 0;   // the stake a seat finally makes in its turn
+inline int ApuestaMaxRonda = 0;    // the highest stake of the round (in the Mus, 999 an órdago)
 
 int RestoJugador(int seat);
 int ApuestaAcumulada(int seat, int serie);

@@ -101,6 +101,7 @@ FormaBaraja FormaMus() {
     for (int l = 1; l <= 5; ++l) NombreLance[l] = QString::fromUtf8(Lances[l]);
     // The table of every hand follows the counts of the cards just set.
     GeneraCombinacionesMus();
+    TotalCombinaciones = TOTAL_COMBINACIONES;
     return {BARAJA_ESPANOLA, 4, 1, 4};
 }
 

@@ -10,6 +10,7 @@
 #include "frame/TrufalBas.h"
 #include "frame/TrufalGbl.h"
 #include "games/mus/Mus.h"
+#include "games/pumba/PartidaPumba.h"
 #include "platform/Bomba.h"
 #include "platform/Reloj.h"
 #include "platform/Sonido.h"
@@ -247,6 +248,8 @@ void NuevaMano() {
         DibujaMazo(MazoX, MazoY, CartasEnMazo);
         PreparaManoMus();
     }
+    // Pumba turns up the first card on the pile and shows the button to say the word.
+    if (JuegoActual == JUEGO_PUMBA) PreparaManoPumba();
     DibujaNombres();
     if (TurnoSalida == 2) EligeMano();
     ManoViva = true;
@@ -459,6 +462,9 @@ void PreparaPosponer() {
         AnularReparto = false;
         ManoViva = false;
     }
+    // A Pumba hand left reversed is dealt again in the sense of the match: the leader is moved
+    // back by it.
+    if (JuegoActual == JUEGO_PUMBA) PasoSentidoPumba = PasoSentido;
 }
 
 void TerminaPrograma() {

@@ -5,6 +5,8 @@
 #include "games/poker/Partida.h"
 #include "games/chinchon/Partida.h"
 #include "games/mus/Mus.h"
+#include "games/cinquillo/PartidaCinquillo.h"
+#include "games/pumba/PartidaPumba.h"
 #include "games/tutebrisca/Partida.h"
 #include "table/Dibujo.h"
 
@@ -23,6 +25,11 @@ void JuegaPartida() {
         JuegaChinchon();
     case JUEGO_MUS:
         JuegaMus();
+    case JUEGO_CINQUILLO:
+        JuegaCinquillo();
+        break;
+    case JUEGO_PUMBA:
+        JuegaPumba();
         break;
     // Each game's own driver takes its place here as it comes to the table.
     default:

@@ -32,6 +32,8 @@ inline int JugadoresMano = 0;
 inline int SerieActual = 1, NumSeries = 1;
 inline int CartaElegida = 0;
 inline double AzarJugada = 0.0;
+// The hands the deck in play can make: of five cards in Póker, of four in the Mus.
+inline int TotalCombinaciones = 0;
 inline int CodigoJugada = 0;
 inline int PasoSentido = 1;
 inline int PasoSentidoPumba = 1;

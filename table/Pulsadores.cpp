@@ -5,6 +5,7 @@
 #include "frame/Baraja.h"
 #include "frame/Ciclo.h"
 #include "frame/TrufalGbl.h"
+#include "games/pumba/PartidaPumba.h"
 #include "platform/Sonido.h"
 #include "table/Dibujo.h"
 #include "table/DibujoComun.h"
@@ -238,6 +239,9 @@ void PulsaPulsador(int indice) {
         break;
     case PULSADOR_DESCARTO:
         EsperandoPersona = false;
+        break;
+    case PULSADOR_PUMBA:
+        PulsaBotonPumba(); // the wait goes on: the card is still to be laid
         break;
     case PULSADOR_CERRAR:
         termina(PulsoCerrar);

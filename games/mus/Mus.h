@@ -2,6 +2,8 @@
 // discards, the four lances with their envites and órdago, and the stones of each game.
 #pragma once
 
+#include "betting/Fichas.h"
+
 #include <QString>
 #include <QStringList>
 #include <vector>
@@ -50,7 +52,6 @@ struct CombinacionMus {
 inline CombinacionMus CombinacionesMus[NUM_COMBINACIONES + 1];
 constexpr int CONTEO_MEJORES = 1, CONTEO_IGUALES = 2, CONTEO_PEORES = 3;
 inline int ConteoCombinaciones[4][6] = {}; // [better, equal, worse][lance]
-inline int TotalCombinaciones = TOTAL_COMBINACIONES;
 inline int TotalConJuego = 0, TotalConPunto = 0;
 inline float PorcentajeMejores[6] = {}; // per lance, the share of hands that beat this one
 
@@ -85,12 +86,11 @@ inline QString TextoPago;
 inline int PiedrasPago = 0, LineasPago = 0, LancePago = 0, ParejaCobra = 0;
 
 // ---- Betting of a lance ----
-inline int JugadorMaxApuesta = 0; // the seat whose envite stands, 0 none
-inline int ApuestaMaxRonda = 0;   // the highest envite of the lance, 999 an órdago
+// The seat whose envite stands (JugadorMaxApuesta), the highest envite of the lance
+// (ApuestaMaxRonda, 999 an órdago) and what the seat finally says (ApuestaAnunciada) are the
+// board's, as is the person's envite on the panel (ApuestaPersona, 0 a pass).
 inline int TurnosDesdeSubida = 0;
-inline int ApuestaPersona = 0;   // the person's envite on the panel, 0 a pass
 inline int ApuestaOrdenador = 0; // the computer player's envite for the seat on turn
-inline int ApuestaAnunciada = 0; // what the seat finally says
 inline bool HablaPorDosOrdenador = false;
 inline double AzarFrase = 0.0; // the draw of the turn for the phrases
 

@@ -37,7 +37,6 @@ inline int OrdenPropio = 0;
 // then eleven counts of 7 digits for the codes 7 to 17 of that deck.
 constexpr int FILAS_COMBINACIONES = 18;
 extern const char* const TablaCombinaciones[FILAS_COMBINACIONES + 1];
-inline int TotalCombinaciones = 0;
 inline int CombinacionesJugada[NUM_JUGADAS + 1] = {};
 inline double PorcentajeJugada[NUM_JUGADAS + 1] = {};
 

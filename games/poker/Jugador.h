@@ -4,6 +4,8 @@
 // seat too, so that the tutor and the automatic button have an answer ready.
 #pragma once
 
+#include "betting/Fichas.h"
+
 // ---- Answers ----
 inline bool Descarte[6] = {};    // [1..5]: throw the card at that position of the hand
 inline int ApuestaOrdenador = 0; // -1 fold, 0 pass, else the money the seat adds now
@@ -11,8 +13,7 @@ inline int LimiteRonda = 0;      // the most the seat will stake in this round
 inline bool Farol[5] = {};       // the seat bluffed in this hand; carries into the second round
 
 // ---- What the driver keeps of the hand and of the round, read here ----
-// The highest stake of this round (Apuesta[seat][1][FaseJuego]); 0 while nobody has staked.
-inline int ApuestaMaxRonda = 0;
+// The highest stake of this round is ApuestaMaxRonda, kept with the board.
 // The range of plays the table deduces from how many cards each seat drew; 0 before the draw.
 inline int JugadaMinEstimada[5] = {};
 inline int JugadaMaxEstimada[5] = {};

@@ -85,6 +85,24 @@ TEST(Coherencia, MusNoPierdeCartasNiPiedras) {
     }
 }
 
+// Cinquillo deals the whole deck and lays it out; Pumba keeps a stock that runs out, a pile, and
+// seats that leave the match by their points.
+TEST(Coherencia, CinquilloYPumbaNoPierdenNiDuplicanCartas) {
+    MesaDePrueba mesa;
+    PreparaMesaAutomatica(mesa.Carpeta.path());
+    const MesaAutomatica tipos[] = {
+        {JUEGO_CINQUILLO, 4, false, [] { LimitePartida = 2; }},
+        {JUEGO_PUMBA, 2, false, [] { LimitePartida = 15; }},
+        {JUEGO_PUMBA, 4, false, [] { LimitePartida = 15; }},
+    };
+    constexpr int PARTIDAS_CP = 20;
+    unsigned semilla = 1;
+    for (const MesaAutomatica& tipo : tipos) {
+        EXPECT_GT(JuegaConComprobacion(tipo, semilla, PARTIDAS_CP), PARTIDAS_CP);
+        semilla += PARTIDAS_CP;
+    }
+}
+
 // The check sees a lost card and a card that is twice on the table.
 TEST(Coherencia, VeUnaCartaPerdidaOQueEstaDosVeces) {
     MesaDePrueba mesa;
