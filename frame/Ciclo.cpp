@@ -144,6 +144,7 @@ void NuevaPartida() {
 void AbreJuego() {
     LeeJuego();
     ParametrosJuego();
+    ReversosReducidos(); // the small backs of the won tricks in the game's own design
     ColocaMazo();
     ColocaTriunfo();
     PasoSentido = SentidoJuego == 1 ? 1 : -1;
