@@ -65,7 +65,6 @@ void PreparaPartidaAutomatica(const MesaAutomatica& mesa) {
     ModoReparto = 1;
     if (mesa.Opciones) mesa.Opciones();
     ParametrosJuego();
-    CargaBaraja();
     ColocaMazo();
     ColocaTriunfo();
     PasoSentido = PasoSentidoPumba = SentidoJuego == 1 ? 1 : -1;

@@ -3,7 +3,10 @@
 
 #include "bench/Automatica.h"
 
-// Automatic hands a second of one kind of match, pauses at zero and no flights drawn.
+// The processor time the benchmark has used, in seconds: figures that a busy machine doesn't
+// change. The table is played on one thread.
+double SegundosDeProceso();
+// Automatic hands a second of processor time, pauses at zero and no flights drawn.
 double ManosPorSegundo(const MesaAutomatica& mesa, int manos);
 
 void BenchTuteBrisca();

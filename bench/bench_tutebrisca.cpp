@@ -1,6 +1,5 @@
 // Figures of Tute and Brisca: automatic hands per second, and the worst time of the end-game
 // search for each game and seat count.
-#include <QElapsedTimer>
 #include <cstdio>
 
 #include "bench/Secciones.h"
@@ -39,10 +38,9 @@ double PeorSimulacion(int juego, int jugadores, int cartas, int repeticiones) {
         }
         DaMano(s, mano, cartas);
     }
-    QElapsedTimer reloj;
-    reloj.start();
+    const double inicio = SegundosDeProceso();
     for (int r = 0; r < repeticiones; ++r) SimulaFinal();
-    return reloj.nsecsElapsed() / 1e6 / repeticiones;
+    return (SegundosDeProceso() - inicio) * 1e3 / repeticiones;
 }
 
 } // namespace

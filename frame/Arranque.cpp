@@ -77,9 +77,9 @@ void BuscaMotoresVoz() {
         QMessageBox caja(QMessageBox::Critical, "Sintetizador de voz",
                          "No puede continuar la carga del programa porque su sistema operativo no "
                          "tiene instaladas las librerías que necesita el sintetizador de voces de "
-                         "los jugadores. Para instalarlas debe ejecutar el instalador de Microsoft "
-                         "que encontrará en Inicio/Programas/Trufal 3.2/Instalar sintetizador de "
-                         "voz.",
+                         "los jugadores. Para instalarlas debe instalar el paquete espeak-ng-data "
+                         "con el gestor de paquetes de su sistema (en Debian y Ubuntu: sudo apt "
+                         "install espeak-ng-data).",
                          QMessageBox::Ok | QMessageBox::Help);
         if (caja.exec() == QMessageBox::Help) AbreAyudaYEspera(TEMA_SINTETIZADOR);
         SalidaInmediata();

@@ -360,7 +360,7 @@ void CierraPartida(const QString& texto, int lineas) {
 
 void SenalaJugador() {
     FraseJugador[JugadorActual][1].clear();
-    for (int vuelta = 1; vuelta <= 2; ++vuelta) {
+    for (int vuelta = 1; vuelta <= VueltasAnimacion(2); ++vuelta) {
         if (ApuestaDelante && JugadorActual != JugadorBanca) BorraPila(JugadorActual);
         const int s = JugadorActual;
         BorraZona(ZonaIzquierda[s], ZonaArriba[s], ZonaDerecha[s] - ZonaIzquierda[s] + 1,

@@ -11,6 +11,7 @@
 #include <QFile>
 #include <QSaveFile>
 #include <QStringList>
+#include <vector>
 #include <cmath>
 
 namespace {
@@ -66,24 +67,26 @@ QString TextoFichero(const QString& texto) {
 // ---------------------------------------------------------------------------------------------
 // Errors while reading
 
-// The last error goes to ErrorFichero, as an error handler that carries on would leave it. The
-// last one worth telling the person is kept apart, so that an overflow after it can't hide it.
-int ErrorParaAviso = 0;
+// The last error goes to ErrorFichero, as an error handler that carries on would leave it.
+// Each one worth telling the person is kept too: an overflow says nothing, the table mends it.
+std::vector<int> ErroresParaAviso;
 
 void AnotaError(int numero) {
     ErrorFichero = numero;
-    if (numero != ERROR_DESBORDAMIENTO) ErrorParaAviso = numero;
+    if (numero != ERROR_DESBORDAMIENTO) ErroresParaAviso.push_back(numero);
 }
 
 void EmpiezaLectura() {
     ErrorFichero = 0;
-    ErrorParaAviso = 0;
+    ErroresParaAviso.clear();
 }
 
-// One message for each reading, after it: "IDC ERROR 13", "IDCS ERROR 62".
+// After the reading, one message for each field that couldn't be read: "IDC ERROR 13",
+// "IDCS ERROR 62".
 void AvisaError(const QString& prefijo) {
-    if (ErrorParaAviso == 0) return;
-    Mensaje(TITULO_ERROR, prefijo + QString::number(ErrorParaAviso), 3, 1);
+    const std::vector<int> errores = std::move(ErroresParaAviso);
+    ErroresParaAviso.clear();
+    for (int numero : errores) Mensaje(TITULO_ERROR, prefijo + QString::number(numero), 3, 1);
 }
 
 // ---------------------------------------------------------------------------------------------

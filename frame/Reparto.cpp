@@ -69,6 +69,7 @@ void DaCartaDelMazo(int seat) {
     c[CAMPO_ESTADO] = 2;
     c[CAMPO_MARCA] = MarcaDeReparto();
     NumCartas[seat][1] = pos;
+    SeatUltimoReparto = seat; // Tute for three or four turns up the last card dealt
     --CartasEnMazo;
     ++PosicionMazo;
     DibujaMazo(MazoX, MazoY, CartasEnMazo);

@@ -37,12 +37,11 @@ QImage AEscalaMesa(const QImage& sencilla, const QImage& doble) {
     return resultado;
 }
 
-void Transfiere(QImage& destino, int x, int y, int ancho, int alto, const QImage& origen, int xs,
-                int ys, OpRaster op) {
-    if (destino.isNull() || origen.isNull()) return;
-    // Table pixels to picture pixels; a source of another resolution is brought to the target's.
-    const int k = qRound(destino.devicePixelRatio());
-    QImage ajustada;
+namespace {
+
+// A source at the target's resolution, in a 32-bit format: the picture itself when it already
+// is one (no copy), else a converted or scaled copy kept in `ajustada`.
+const QImage& FuenteAjustada(const QImage& origen, int k, QImage& ajustada) {
     const QImage* base = &origen;
     if (qRound(origen.devicePixelRatio()) != k) {
         const double f = k / origen.devicePixelRatio();
@@ -50,66 +49,121 @@ void Transfiere(QImage& destino, int x, int y, int ancho, int alto, const QImage
                                  Qt::IgnoreAspectRatio, Qt::FastTransformation);
         base = &ajustada;
     }
-    x *= k;
-    y *= k;
-    ancho *= k;
-    alto *= k;
-    xs *= k;
-    ys *= k;
-    const QImage& origenPixeles = *base;
-    // Clip to both pictures, moving the two corners together.
-    if (x < 0) {
-        xs -= x;
-        ancho += x;
-        x = 0;
+    if (base->format() != QImage::Format_RGB32 && base->format() != QImage::Format_ARGB32) {
+        ajustada = base->convertToFormat(QImage::Format_RGB32);
+        base = &ajustada;
     }
-    if (y < 0) {
-        ys -= y;
-        alto += y;
-        y = 0;
+    return *base;
+}
+
+// A block in picture pixels, clipped against the target and one or two sources, moving all the
+// corners together. False when nothing is left.
+struct Bloque {
+    int X, Y, Ancho, Alto;
+    int Xs[2], Ys[2];
+};
+
+bool Recorta(Bloque& b, const QImage& destino, const QImage* fuentes[2], int n) {
+    auto mueve = [&](int dx, int dy) {
+        b.X += dx;
+        b.Y += dy;
+        for (int i = 0; i < n; ++i) {
+            b.Xs[i] += dx;
+            b.Ys[i] += dy;
+        }
+        b.Ancho -= dx;
+        b.Alto -= dy;
+    };
+    if (b.X < 0) mueve(-b.X, 0);
+    if (b.Y < 0) mueve(0, -b.Y);
+    for (int i = 0; i < n; ++i) {
+        if (b.Xs[i] < 0) mueve(-b.Xs[i], 0);
+        if (b.Ys[i] < 0) mueve(0, -b.Ys[i]);
     }
-    if (xs < 0) {
-        x -= xs;
-        ancho += xs;
-        xs = 0;
+    b.Ancho = std::min(b.Ancho, destino.width() - b.X);
+    b.Alto = std::min(b.Alto, destino.height() - b.Y);
+    for (int i = 0; i < n; ++i) {
+        b.Ancho = std::min(b.Ancho, fuentes[i]->width() - b.Xs[i]);
+        b.Alto = std::min(b.Alto, fuentes[i]->height() - b.Ys[i]);
     }
-    if (ys < 0) {
-        y -= ys;
-        alto += ys;
-        ys = 0;
-    }
-    ancho = std::min({ancho, destino.width() - x, origenPixeles.width() - xs});
-    alto = std::min({alto, destino.height() - y, origenPixeles.height() - ys});
-    if (ancho <= 0 || alto <= 0) return;
-    const QImage fuente = origenPixeles.format() == QImage::Format_RGB32 ||
-                                  origenPixeles.format() == QImage::Format_ARGB32
-                              ? origenPixeles
-                              : origenPixeles.convertToFormat(QImage::Format_RGB32);
+    return b.Ancho > 0 && b.Alto > 0;
+}
+
+void PreparaDestino(QImage& destino, int k) {
     if (destino.format() != QImage::Format_RGB32 && destino.format() != QImage::Format_ARGB32) {
         destino = destino.convertToFormat(QImage::Format_RGB32);
         destino.setDevicePixelRatio(k);
     }
-    for (int j = 0; j < alto; ++j) {
-        auto* d = reinterpret_cast<QRgb*>(destino.scanLine(y + j)) + x;
-        const auto* s = reinterpret_cast<const QRgb*>(fuente.constScanLine(ys + j)) + xs;
+}
+
+QRgb* Fila(QImage& imagen, uchar* bits, int y, int x) {
+    return reinterpret_cast<QRgb*>(bits + static_cast<qsizetype>(y) * imagen.bytesPerLine()) + x;
+}
+
+const QRgb* Fila(const QImage& imagen, const uchar* bits, int y, int x) {
+    return reinterpret_cast<const QRgb*>(bits + static_cast<qsizetype>(y) * imagen.bytesPerLine()) +
+           x;
+}
+
+} // namespace
+
+void Transfiere(QImage& destino, int x, int y, int ancho, int alto, const QImage& origen, int xs,
+                int ys, OpRaster op) {
+    if (destino.isNull() || origen.isNull()) return;
+    // Table pixels to picture pixels; a source of another resolution is brought to the target's.
+    const int k = qRound(destino.devicePixelRatio());
+    QImage ajustada;
+    const QImage& fuente = FuenteAjustada(origen, k, ajustada);
+    const QImage* fuentes[2] = {&fuente, nullptr};
+    Bloque b{x * k, y * k, ancho * k, alto * k, {xs * k, 0}, {ys * k, 0}};
+    if (!Recorta(b, destino, fuentes, 1)) return;
+    PreparaDestino(destino, k);
+    uchar* bitsDestino = destino.bits(); // detaches once, not once a row
+    const uchar* bitsFuente = fuente.constBits();
+    const bool opaca = fuente.format() == QImage::Format_RGB32;
+    for (int j = 0; j < b.Alto; ++j) {
+        QRgb* d = Fila(destino, bitsDestino, b.Y + j, b.X);
+        const QRgb* s = Fila(fuente, bitsFuente, b.Ys[0] + j, b.Xs[0]);
         switch (op) {
         case OpRaster::Copia:
             // An RGB32 row already carries its opaque alpha: it is copied whole.
-            if (fuente.format() == QImage::Format_RGB32)
-                std::memcpy(d, s, sizeof(QRgb) * static_cast<size_t>(ancho));
+            if (opaca)
+                std::memcpy(d, s, sizeof(QRgb) * static_cast<size_t>(b.Ancho));
             else
-                for (int i = 0; i < ancho; ++i) d[i] = s[i] | 0xFF000000u;
+                for (int i = 0; i < b.Ancho; ++i) d[i] = s[i] | 0xFF000000u;
             break;
         case OpRaster::And:
-            for (int i = 0; i < ancho; ++i) d[i] = (d[i] & s[i]) | 0xFF000000u;
+            for (int i = 0; i < b.Ancho; ++i) d[i] = (d[i] & s[i]) | 0xFF000000u;
             break;
         case OpRaster::Xor:
-            for (int i = 0; i < ancho; ++i) d[i] = (d[i] ^ s[i]) | 0xFF000000u;
+            for (int i = 0; i < b.Ancho; ++i) d[i] = (d[i] ^ s[i]) | 0xFF000000u;
             break;
         case OpRaster::Or:
-            for (int i = 0; i < ancho; ++i) d[i] = (d[i] | s[i]) | 0xFF000000u;
+            for (int i = 0; i < b.Ancho; ++i) d[i] = (d[i] | s[i]) | 0xFF000000u;
             break;
         }
+    }
+}
+
+void TransfiereConMascara(QImage& destino, int x, int y, int ancho, int alto, const QImage& mascara,
+                          int xm, int ym, const QImage& imagen, int xi, int yi) {
+    if (destino.isNull() || mascara.isNull() || imagen.isNull()) return;
+    const int k = qRound(destino.devicePixelRatio());
+    QImage ajustadaMascara, ajustadaImagen;
+    const QImage& m = FuenteAjustada(mascara, k, ajustadaMascara);
+    const QImage& f = FuenteAjustada(imagen, k, ajustadaImagen);
+    const QImage* fuentes[2] = {&m, &f};
+    Bloque b{x * k, y * k, ancho * k, alto * k, {xm * k, xi * k}, {ym * k, yi * k}};
+    if (!Recorta(b, destino, fuentes, 2)) return;
+    PreparaDestino(destino, k);
+    uchar* bitsDestino = destino.bits();
+    const uchar* bitsMascara = m.constBits();
+    const uchar* bitsImagen = f.constBits();
+    for (int j = 0; j < b.Alto; ++j) {
+        QRgb* d = Fila(destino, bitsDestino, b.Y + j, b.X);
+        const QRgb* sm = Fila(m, bitsMascara, b.Ys[0] + j, b.Xs[0]);
+        const QRgb* si = Fila(f, bitsImagen, b.Ys[1] + j, b.Xs[1]);
+        for (int i = 0; i < b.Ancho; ++i) d[i] = ((d[i] & sm[i]) ^ si[i]) | 0xFF000000u;
     }
 }
 

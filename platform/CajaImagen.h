@@ -40,6 +40,11 @@ void DimensionaCaja(CajaImagen& caja, int ancho, int alto, unsigned colorRgb = 0
 void Transfiere(QImage& destino, int x, int y, int ancho, int alto, const QImage& origen, int xs,
                 int ys, OpRaster op);
 
+// The two transfers of a masked picture in one pass: AND with the mask at (xm, ym), then XOR
+// with the picture at (xi, yi). The same pixels as the two transfers one after the other.
+void TransfiereConMascara(QImage& destino, int x, int y, int ancho, int alto, const QImage& mascara,
+                          int xm, int ym, const QImage& imagen, int xi, int yi);
+
 // A quarter turn clockwise: pixel (x, y) goes to (height - 1 - y, x) of the turned picture, so
 // the sheet of a seat on the left reads from the table's middle.
 QImage GiraCuarto(const QImage& imagen);

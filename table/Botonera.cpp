@@ -11,6 +11,7 @@
 #include "table/Dibujo.h"
 #include "table/Mensajes.h"
 #include "table/Mesa.h"
+#include "table/Pulsadores.h"
 #include "table/Tutor.h"
 
 #include <QFile>
@@ -169,6 +170,7 @@ void PintaContinuar(bool pulsado) {
 } // namespace
 
 void PreparaBotonera() {
+    IniciaEtiquetas(); // the captions of the action buttons beside the seats
     DimensionaCaja(Pic_Botonera, ANCHO_BOTONERA, AltoVentana, COLOR_BOTONERA);
     Pic_Botonera.X = AnchoMesa;
     Pic_Botonera.Y = 0;

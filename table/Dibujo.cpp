@@ -23,10 +23,8 @@ void TapaConReverso(QImage& destino, int x, int y, int orientacion, const QRect&
     const QImage& reversos = Pic_BarReversos[tumbada ? 2 : 1].Imagen;
     const int xs = tumbada ? 0 : ReversoCartas * ANCHO_CARTA;
     const int ys = tumbada ? ReversoCartas * ANCHO_CARTA : 0;
-    Transfiere(destino, x + parte.x(), y + parte.y(), parte.width(), parte.height(), reversos,
-               parte.x(), parte.y(), OpRaster::And);
-    Transfiere(destino, x + parte.x(), y + parte.y(), parte.width(), parte.height(), reversos,
-               xs + parte.x(), ys + parte.y(), OpRaster::Xor);
+    TransfiereConMascara(destino, x + parte.x(), y + parte.y(), parte.width(), parte.height(),
+                         reversos, parte.x(), parte.y(), reversos, xs + parte.x(), ys + parte.y());
 }
 
 // The cell of a face in the sheet of an orientation: the upright sheet turned clockwise once
@@ -120,15 +118,14 @@ void DibujaCarta(QImage& destino, int x, int y, int orientacion, int palo, int v
     if (palo < 1 || palo > PALO_COMODIN) return;
     // The mask blackens the card's place and leaves the corners; the face is then laid in by
     // XOR, black outside its corners, so the table shows through them.
-    Transfiere(destino, x, y, ancho, alto, Pic_BarReversos[tumbada ? 2 : 1].Imagen, 0, 0,
-               OpRaster::And);
+    const QImage& mascara = Pic_BarReversos[tumbada ? 2 : 1].Imagen;
     if (palo == PALO_COMODIN) {
-        Transfiere(destino, x, y, ancho, alto, Pic_Comodin[orientacion].Imagen, 0, 0,
-                   OpRaster::Xor);
+        TransfiereConMascara(destino, x, y, ancho, alto, mascara, 0, 0,
+                             Pic_Comodin[orientacion].Imagen, 0, 0);
     } else {
         const QPoint celda = CeldaCara(orientacion, palo, valor);
-        Transfiere(destino, x, y, ancho, alto, Pic_Baraja[orientacion].Imagen, celda.x(), celda.y(),
-                   OpRaster::Xor);
+        TransfiereConMascara(destino, x, y, ancho, alto, mascara, 0, 0,
+                             Pic_Baraja[orientacion].Imagen, celda.x(), celda.y());
     }
     if (parcial == 1) TapaConReverso(destino, x, y, orientacion, ParteTapada(orientacion));
 }
@@ -159,7 +156,7 @@ void DibujaMazo(int x, int y, int cuenta) {
 void SenalaCarta(int seat, int posicion, int veces) {
     int& estado = CartasJugador[seat][SerieActual][posicion][CAMPO_ESTADO];
     const int antes = estado;
-    for (int vuelta = 1; vuelta <= veces; ++vuelta) {
+    for (int vuelta = 1; vuelta <= VueltasAnimacion(veces); ++vuelta) {
         Pausa(180);
         SuenaMesa(SONIDO_ASINCRONO, SONIDO_CARTA_SUBE);
         estado = 1;

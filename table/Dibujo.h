@@ -67,8 +67,13 @@ int DesplazaMontonX(int cuenta);
 int DesplazaMontonY(int seat, int cuenta);
 
 // Automatic matches of the tests and the benchmark: cards and chips land at once instead of
-// crossing the table step by step. What the table shows after each move is the same.
+// crossing the table step by step, and a blink blinks once. What the table shows after each
+// move is the same.
 inline bool VuelosOmitidos = false;
+// The rounds of a blink: as many as asked, or one when flights are skipped.
+inline int VueltasAnimacion(int vueltas) {
+    return VuelosOmitidos ? 1 : vueltas;
+}
 
 // Headless checks: when set, the drawing tells here each sound it plays and each step of a
 // flight it shows, so a test can follow an animation without a window.

@@ -136,7 +136,7 @@ void MarcaPaso(int seat) {
     if (seat < 1 || seat > 4) return;
     Pausa(90);
     BorraPila(seat + 10);
-    for (int vuelta = 1; vuelta <= 2; ++vuelta) {
+    for (int vuelta = 1; vuelta <= VueltasAnimacion(2); ++vuelta) {
         DibujaMarcaPaso(seat);
         RefrescaMesa();
         SuenaMesa(SONIDO_SINCRONO, SONIDO_PASO);

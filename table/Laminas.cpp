@@ -6,7 +6,9 @@
 #include "table/Dibujo.h"
 #include "table/DibujoComun.h"
 
+#include <QDateTime>
 #include <QFile>
+#include <QFileInfo>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -281,6 +283,17 @@ void CargaLaminas() {
 void CargaBaraja() {
     const QString nombre =
         TipoBaraja == 2 ? QStringLiteral("Baraja01.jpg") : QStringLiteral("Baraja02.jpg");
+    // A new match of the same deck finds its sheets already read and turned.
+    const QFileInfo fichero(CarpetaTrabajo + nombre);
+    const QString clave = QStringLiteral("%1|%2|%3|%4|%5")
+                              .arg(fichero.absoluteFilePath())
+                              .arg(fichero.exists() ? fichero.size() : -1)
+                              .arg(fichero.lastModified().toMSecsSinceEpoch())
+                              .arg(EscalaMesa)
+                              .arg(CarpetaPrograma);
+    static QString cargada;
+    if (clave == cargada && !Pic_Baraja[4].Imagen.isNull()) return;
+    cargada = clave;
     const int columnas = TipoBaraja == 2 ? 13 : 12;
     const int ancho = columnas * ANCHO_CARTA, alto = 4 * ALTO_CARTA;
     QImage hoja = BuscaBaraja(nombre);

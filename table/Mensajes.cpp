@@ -8,6 +8,8 @@
 #include "table/Mesa.h"
 
 #include <QDialog>
+#include <QFontMetrics>
+#include <algorithm>
 #include <QFile>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -51,6 +53,28 @@ QImage CaraMensaje(QPoint cara, const QString& rotulo) {
     return imagen;
 }
 
+QFont LetraTexto() {
+    QFont letra("DejaVu Sans");
+    letra.setPixelSize(12);
+    return letra;
+}
+
+QString TextoPlano(const QString& texto) {
+    QString plano = texto;
+    return plano.replace("\r\n", "\n");
+}
+
+// The sunken frame: grey above and to the left, white below and to the right, 6 off.
+void Marco(QPainter& p, QRect zona) {
+    const QRect r = zona.adjusted(-6, -6, 6, 6);
+    p.setPen(QColor(0x80, 0x80, 0x80));
+    p.drawLine(r.topLeft(), r.topRight());
+    p.drawLine(r.topLeft(), r.bottomLeft());
+    p.setPen(Qt::white);
+    p.drawLine(r.bottomLeft(), r.bottomRight());
+    p.drawLine(r.topRight(), r.bottomRight());
+}
+
 class VentanaMensajes : public QDialog {
   public:
     VentanaMensajes(const QString& titulo, const QString& texto, int lineas, int botones, int ayuda)
@@ -71,12 +95,10 @@ class VentanaMensajes : public QDialog {
         }
     }
 
-  protected:
-    void paintEvent(QPaintEvent*) override {
-        QPainter p(this);
-        p.fillRect(rect(), QColor(0, 112, 0));
+    void Pinta(QPainter& p) const {
+        p.fillRect(QRect(0, 0, width(), height()), QColor(0, 112, 0));
         p.setPen(QPen(QColor(0, 60, 0), 3));
-        p.drawRect(rect().adjusted(1, 1, -2, -2));
+        p.drawRect(QRect(0, 0, width(), height()).adjusted(1, 1, -2, -2));
         Marco(p, QRect(X_TEXTO, Y_TITULO, ANCHO_TEXTO, ALTO_TITULO));
         Marco(p, QRect(X_TEXTO, Y_MENSAJE, ANCHO_TEXTO, 16 * Lineas + 3));
         QFont letra("DejaVu Sans");
@@ -85,19 +107,21 @@ class VentanaMensajes : public QDialog {
         p.setFont(letra);
         p.setPen(QColor(255, 255, 190));
         p.drawText(QRect(X_TEXTO, Y_TITULO, ANCHO_TEXTO, ALTO_TITULO), Qt::AlignCenter, Titulo);
-        letra.setBold(false);
-        letra.setPixelSize(12);
-        p.setFont(letra);
+        p.setFont(LetraTexto());
         p.setPen(Qt::white);
-        QString texto = Texto;
-        texto.replace("\r\n", "\n");
         p.drawText(QRect(X_TEXTO + 2, Y_MENSAJE + 1, ANCHO_TEXTO - 4, 16 * Lineas + 3),
-                   Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, texto);
+                   Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, TextoPlano(Texto));
         for (const BotonMensaje& b : Lista) {
             static const char* const rotulos[] = {"?", "OK", "Sí", "No"};
             p.drawImage(b.Zona.topLeft(),
                         CaraMensaje(b.Cara, QString::fromUtf8(rotulos[b.Accion])));
         }
+    }
+
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter p(this);
+        Pinta(p);
     }
 
     void mousePressEvent(QMouseEvent* e) override {
@@ -113,17 +137,6 @@ class VentanaMensajes : public QDialog {
     void reject() override { Acciona(Botones == 1 ? 1 : 3); }
 
   private:
-    // The sunken frame: grey above and to the left, white below and to the right, 6 off.
-    static void Marco(QPainter& p, QRect zona) {
-        const QRect r = zona.adjusted(-6, -6, 6, 6);
-        p.setPen(QColor(0x80, 0x80, 0x80));
-        p.drawLine(r.topLeft(), r.topRight());
-        p.drawLine(r.topLeft(), r.bottomLeft());
-        p.setPen(Qt::white);
-        p.drawLine(r.bottomLeft(), r.bottomRight());
-        p.drawLine(r.topRight(), r.bottomRight());
-    }
-
     void Acciona(int accion) {
         Sonido(SONIDO_ASINCRONO, SONIDO_BOTON);
         if (accion == 0) {
@@ -141,6 +154,26 @@ class VentanaMensajes : public QDialog {
 };
 
 } // namespace
+
+int LineasDelMensaje(const QString& texto, int lineas) {
+    // The lines the text really takes, wrapped at the width of its box, each in a line of 16.
+    const QFontMetrics medidas(LetraTexto());
+    const QRect caja =
+        medidas.boundingRect(QRect(0, 0, ANCHO_TEXTO - 4, 100000),
+                             Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, TextoPlano(texto));
+    const int ocupadas = (caja.height() + 15) / 16;
+    return std::max(lineas, ocupadas);
+}
+
+QImage ImagenMensaje(const QString& titulo, const QString& texto, int lineas, int botones,
+                     int ayuda) {
+    lineas = LineasDelMensaje(texto, lineas);
+    VentanaMensajes ventana(titulo, texto, lineas, botones, ayuda);
+    QImage imagen(ventana.size(), QImage::Format_RGB32);
+    QPainter p(&imagen);
+    ventana.Pinta(p);
+    return imagen;
+}
 
 GeometriaMensaje CalculaMensaje(int lineas) {
     GeometriaMensaje g{};
@@ -169,6 +202,7 @@ void Mensaje(const QString& titulo, const QString& texto, int lineas, int botone
         }
         return;
     }
+    lineas = LineasDelMensaje(texto, lineas);
     VentanaMensajes ventana(titulo, texto, lineas, botones, ayuda);
     const GeometriaMensaje g = CalculaMensaje(lineas);
     // Centre on the table as the window shows it, whatever its scale.

@@ -9,6 +9,14 @@
 // button, 2 yes and no; help the topic of the help button, 0 for none.
 void Mensaje(const QString& titulo, const QString& texto, int lineas, int botones, int ayuda = 0);
 
+// The lines the box gives the text: those the caller expects, or more when the text, wrapped at
+// the width of the box, takes more. No line is ever cut off.
+int LineasDelMensaje(const QString& texto, int lineas);
+// The box as it is drawn, in a picture, for the tests to look at.
+class QImage;
+QImage ImagenMensaje(const QString& titulo, const QString& texto, int lineas, int botones,
+                     int ayuda = 0);
+
 // Geometry of the box for its lines, on the reference it centres on.
 struct GeometriaMensaje {
     int X, Y, Ancho, Alto;

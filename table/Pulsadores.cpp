@@ -7,6 +7,7 @@
 #include "frame/TrufalGbl.h"
 #include "platform/Sonido.h"
 #include "table/Dibujo.h"
+#include "table/DibujoComun.h"
 #include "table/Popup.h"
 
 #include <QFile>
@@ -84,7 +85,8 @@ void IniciaEtiquetas() {
     EtiquetaControl[PULSADOR_NO_MUS] = "No mus";
     EtiquetaControl[PULSADOR_SI_HAY] = "Si hay";
     EtiquetaControl[PULSADOR_NO_HAY] = "No hay";
-    EtiquetaControl[PULSADOR_MANDO] = FaseJuego == 5 ? "Mando envidar" : "Mando cortar";
+    EtiquetaControl[PULSADOR_MANDO] =
+        FaseJuego == FASE_MUS_ENVITE ? "Mando envidar" : "Mando cortar";
 }
 
 void DecidePulsadores(int seat, bool quiere[103]) {
@@ -126,6 +128,10 @@ void DecidePulsadores(int seat, bool quiere[103]) {
 }
 
 void DibujaPulsador(int indice, bool tumbado, bool pulsado) {
+    // The order to the partner reads by the phase of the Mus.
+    if (indice == PULSADOR_MANDO)
+        EtiquetaControl[PULSADOR_MANDO] =
+            FaseJuego == FASE_MUS_ENVITE ? "Mando envidar" : "Mando cortar";
     const int ancho = AnchoDe(indice);
     QImage imagen = NuevaImagen(ancho, ALTO_PULSADOR, COLOR_MESA);
     if (!SkinDeLamina(imagen, pulsado)) SkinPorDefecto(imagen, pulsado);
@@ -185,7 +191,7 @@ int PulsadorBajo(int x, int y) {
 
 void PulsaPulsador(int indice) {
     OcultaPopup();
-    Sonido(SONIDO_ASINCRONO, SONIDO_BOTON);
+    SuenaMesa(SONIDO_ASINCRONO, SONIDO_SELECCION);
     const bool tumbado = Pic_Pulsador[indice].Alto() > Pic_Pulsador[indice].Ancho();
     DibujaPulsador(indice, tumbado, true);
     RefrescaMesa();
@@ -194,16 +200,17 @@ void PulsaPulsador(int indice) {
         EsperandoPersona = false;
     };
     switch (indice) {
-    case 81:
+    case PULSADOR_CARTA:
         termina(PideCarta);
         break;
-    case 82:
+    case PULSADOR_SERVIDO:
         termina(PideServido);
         break;
-    case 83:
-    case 84:
-        if (indice == 83 ? SerieActual > 1 : SerieActual < SeriesJugador[JugadorActual]) {
-            SerieActual += indice == 83 ? -1 : 1;
+    case PULSADOR_SERIE_ANTERIOR:
+    case PULSADOR_SERIE_SIGUIENTE:
+        if (indice == PULSADOR_SERIE_ANTERIOR ? SerieActual > 1
+                                              : SerieActual < SeriesJugador[JugadorActual]) {
+            SerieActual += indice == PULSADOR_SERIE_ANTERIOR ? -1 : 1;
             FraseJugador[JugadorActual][SerieActual] = QStringLiteral("Serie %1").arg(SerieActual);
             ColorFrase[JugadorActual][SerieActual] = 0xFFFF00;
             DibujaJugador(JugadorActual);
@@ -211,34 +218,34 @@ void PulsaPulsador(int indice) {
                 DibujaPilas(JugadorActual);
         }
         break;
-    case 85:
+    case PULSADOR_DOBLAR:
         termina(PideDoblar);
         break;
-    case 86:
+    case PULSADOR_SEGURO:
         termina(PideSeguro);
         break;
-    case 87:
+    case PULSADOR_AZAR:
         ReparteRestantesAlAzar();
         break;
-    case 88:
+    case PULSADOR_DESCARTO:
         EsperandoPersona = false;
         break;
-    case 96:
+    case PULSADOR_CERRAR:
         termina(PulsoCerrar);
         break;
-    case 97:
+    case PULSADOR_SEGUIR:
         termina(PulsoSeguir);
         break;
-    case 98:
+    case PULSADOR_MUS:
         termina(PulsoMus);
         break;
-    case 99:
+    case PULSADOR_NO_MUS:
         termina(PulsoCorte);
         break;
-    case 100:
+    case PULSADOR_SI_HAY:
         termina(PulsoSi);
         break;
-    case 101:
+    case PULSADOR_NO_HAY:
         termina(PulsoNo);
         break;
     default:
@@ -248,4 +255,5 @@ void PulsaPulsador(int indice) {
         DibujaPulsador(indice, tumbado, false);
         RefrescaMesa();
     }
+    SuenaMesa(SONIDO_ASINCRONO, SONIDO_SUELTA);
 }

@@ -151,7 +151,7 @@ void SenalaGanador(int seat) {
     const int d = JuegoQueVaciaManos() && NumCartas[GanadorMano][1] == 0 ? 0 : 141;
     int seats[2] = {seat, 0};
     if (ModalidadPareja == 2) seats[1] = CompaneroDe[seat];
-    for (int vuelta = 1; vuelta <= 4; ++vuelta) {
+    for (int vuelta = 1; vuelta <= VueltasAnimacion(4); ++vuelta) {
         for (int s : seats) {
             if (s == 0) continue;
             const QPoint lugar = PosicionIcono(s, d);

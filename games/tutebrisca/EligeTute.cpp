@@ -183,14 +183,14 @@ int ValoraContraAcuse(int seat, int palo, int valor, int valia) {
     return -valia - 2 * OrdenValor[valor] - ACUSE_RIVAL_BAJA;
 }
 
-// T2: a blank card is led into the partner's ruff, and kept from an opponent's.
+// T2: a blank card is led into the partner's ruff, and kept from an opponent's. Every seat's
+// known void counts, the seat's own too (it may have drawn the suit again from the stock).
 int ValoraFallos(int seat, int palo, int valor, int valia) {
     if (NivelJugador[seat] <= NIVEL_FALLOS || PuntosDe(valor) != 0 || palo == PaloTriunfo)
         return valia;
     int suma = 0;
     for (int s = 1; s <= 4; ++s)
-        if (s != seat && EstadoJugador[s] == ESTADO_ACTIVADO && SinPalo[s][palo] &&
-            !SinPalo[s][PaloTriunfo])
+        if (EstadoJugador[s] == ESTADO_ACTIVADO && SinPalo[s][palo] && !SinPalo[s][PaloTriunfo])
             suma += EsCompanero(seat, s) ? 1 : -1;
     return valia - suma * FALLO_PALO;
 }

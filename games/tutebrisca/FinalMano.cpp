@@ -59,8 +59,8 @@ void AnotaRegistro(const QString& plural) {
     RegistroMano& registro = RegistroManos[NumeroMano];
     for (int s = 1; s <= 4; ++s) {
         if (EstadoJugador[s] != ESTADO_ACTIVADO) continue;
-        const int lado = EnParejas() ? ParejaDe[s] : s;
-        registro.Gana[s][1] = lado == GanadorMano ? 1 : 0;
+        // In pairs GanadorMano is the side, 1 or 2: the record marks that seat alone.
+        registro.Gana[s][1] = s == GanadorMano ? 1 : 0;
         registro.Resultado[s] = QString::number(Tantos(s));
         registro.Extra[s] = AcusesDe(s);
         registro.Detalle[s].clear();

@@ -38,7 +38,8 @@ void EnsenaCartas(int seat, const std::vector<int>& posiciones, bool quedanVista
     Pausa(500);
     std::vector<int> caras;
     for (int p : posiciones) caras.push_back(CartasJugador[seat][SERIE][p][CAMPO_CARA]);
-    for (int vuelta = 1; vuelta <= 3; ++vuelta) {
+    const int vueltas = VueltasAnimacion(3);
+    for (int vuelta = 1; vuelta <= vueltas; ++vuelta) {
         for (int p : posiciones) {
             CartasJugador[seat][SERIE][p][CAMPO_CARA] = CARA_VISIBLE;
             CartasJugador[seat][SERIE][p][CAMPO_ESTADO] = 1;
@@ -52,7 +53,7 @@ void EnsenaCartas(int seat, const std::vector<int>& posiciones, bool quedanVista
         for (size_t i = 0; i < posiciones.size(); ++i) {
             auto& c = CartasJugador[seat][SERIE][posiciones[i]];
             c[CAMPO_ESTADO] = 0;
-            if (vuelta == 3 && !quedanVistas) c[CAMPO_CARA] = caras[i];
+            if (vuelta == vueltas && !quedanVistas) c[CAMPO_CARA] = caras[i];
         }
         DibujaJugador(seat);
         RefrescaMesa();
@@ -78,11 +79,15 @@ void VuelveTriunfo() {
     RefrescaMesa();
 }
 
-// Tute for three or four: there is no stock left, and the last card dealt, to the seat before
-// the leader, names the trump. Everybody sees it a moment; it stays in its hand.
+// Tute for three or four: there is no stock left, and the last card dealt names the trump: the
+// seat before the leader of the deal, or the seat a manual deal served last. A leader chosen
+// after the deal moves nothing. Everybody sees it a moment; it stays in its hand.
 void EnsenaTriunfo() {
-    int seat = JugadorMano;
-    AnteriorJugador(seat);
+    int seat = SeatUltimoReparto;
+    if (seat == 0) {
+        seat = JugadorMano;
+        AnteriorJugador(seat);
+    }
     const int n = NumCartas[seat][SERIE];
     if (n == 0) return;
     int pos = n;
@@ -186,7 +191,7 @@ void BorraBaza() {
 
 void ParpadeaGanadorBaza() {
     Pausa(150);
-    for (int vuelta = 1; vuelta <= 2; ++vuelta) {
+    for (int vuelta = 1; vuelta <= VueltasAnimacion(2); ++vuelta) {
         Pausa(420);
         DibujaBaza(GanadorBaza);
         RefrescaMesa();

@@ -622,6 +622,15 @@ TEST_F(Ficheros, CampoIlegibleConservaSuValorYSeAvisaPorNumero) {
     ASSERT_EQ(MensajesVistos.size(), 1u);
     EXPECT_EQ(MensajesVistos[0].Texto, "IDCS ERROR 13");
 
+    // Three fields that can't be read: three messages, one for each.
+    MensajesVistos.clear();
+    Coloca(linea1, 72, "?");
+    Coloca(linea1, 139, "x03");
+    Escribe("TRF5332.INI", FicheroDeJuego(linea1));
+    LeeJuego();
+    ASSERT_EQ(MensajesVistos.size(), 3u);
+    for (const MensajeVisto& m : MensajesVistos) EXPECT_EQ(m.Texto, "IDCS ERROR 13");
+
     // A figure too big for its setting: no message, and the field keeps its value.
     MensajesVistos.clear();
     linea1 = Linea1DeFabrica();
@@ -636,12 +645,12 @@ TEST_F(Ficheros, CampoIlegibleConservaSuValorYSeAvisaPorNumero) {
     EXPECT_EQ(RegistroManos[1].Sale, "Jugador1");
     EXPECT_TRUE(MensajesVistos.empty());
 
-    // The file announces more hands than it holds.
+    // The file announces more hands than it holds: each missing hand is an error of its own.
     Coloca(linea1, 108, "003");
     Escribe("TRF5332.INI", FicheroDeJuego(linea1, {mano}));
     LeeJuego();
-    ASSERT_EQ(MensajesVistos.size(), 1u);
-    EXPECT_EQ(MensajesVistos[0].Texto, "IDCS ERROR 62");
+    ASSERT_EQ(MensajesVistos.size(), 2u);
+    for (const MensajeVisto& m : MensajesVistos) EXPECT_EQ(m.Texto, "IDCS ERROR 62");
 }
 
 TEST_F(Ficheros, CarpetaDondeNoSePuedeGrabar) {

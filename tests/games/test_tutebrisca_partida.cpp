@@ -72,15 +72,18 @@ TEST(TuteBriscaPartida, AutomaticMatchesAddUpAndEndAtTheLimit) {
         int ganadas = 0;
         for (int mano = 1; mano <= NumeroMano; ++mano) {
             const RegistroMano& r = RegistroManos[mano];
-            int tantos = 0, acuses = 0, ganadores = 0;
+            int tantos = 0, acuses = 0, ganadores = 0, marcado = 0;
             bool tute = false;
             for (int s = 1; s <= c.jugadores; ++s) {
                 tantos += r.Resultado[s].toInt();
                 acuses += r.Extra[s];
                 ganadores += r.Gana[s][1];
+                if (r.Gana[s][1] != 0) marcado = s;
                 tute = tute || r.Detalle[s].startsWith("Tute de ");
             }
-            EXPECT_EQ(ganadores, c.pareja == 2 ? 2 : 1) << caso.toStdString() << " mano " << mano;
+            // One mark a hand; in pairs it stands on seat 1 or 2, the number of the side.
+            EXPECT_EQ(ganadores, 1) << caso.toStdString() << " mano " << mano;
+            if (c.pareja == 2) EXPECT_LE(marcado, 2) << caso.toStdString() << " mano " << mano;
             if (c.juego == JUEGO_BRISCA) {
                 EXPECT_EQ(tantos, 120) << caso.toStdString() << " mano " << mano;
                 EXPECT_EQ(acuses, 0);
@@ -338,4 +341,35 @@ TEST(TuteBriscaPartida, ANewMatchStartsWithNobodyToExchange) {
     };
     NuevaPartida();
     EXPECT_GT(vistos, 0);
+}
+
+// Tute for three or four: the trump is the last card dealt, whoever the person then chooses to
+// lead. With the leader chosen after the deal the trump stays where the deal put it.
+TEST(TuteBriscaPartida, TheTrumpForThreeOrFourIsTheLastCardDealt) {
+    Fin fin;
+    for (int jugadores : {3, 4})
+        for (int elegido = 1; elegido <= jugadores; ++elegido) {
+            MesaDePrueba mesa;
+            PreparaPartida(JUEGO_TUTE, jugadores);
+            TurnoSalida = 2;
+            LimitePartida = 1;
+            bool visto = false;
+            PersonaGuionada = [&] {
+                if (EligiendoMano) {
+                    JugadorBajoPuntero = elegido;
+                    EligiendoMano = false;
+                    return;
+                }
+                if (ManoViva && !visto && PaloTriunfo != 0) {
+                    visto = true;
+                    // The value may already have been exchanged for the seven or the two.
+                    EXPECT_EQ(PaloTriunfo, Baraja[PosicionMazo - 1][CAMPO_PALO])
+                        << jugadores << " players, leader " << elegido;
+                }
+                EsperandoPersona = false;
+            };
+            ContinuarManual = true; // a wait at every turn, where the trump is looked at
+            NuevaPartida();
+            EXPECT_TRUE(visto) << jugadores << " " << elegido;
+        }
 }

@@ -86,3 +86,24 @@ TEST(Mensajes, ScriptedAnswersAreTakenInOrderAndOneButtonIsAlwaysYes) {
     EXPECT_EQ(MensajesVistos[0].Ayuda, 7);
     RespuestasGuionadas.clear();
 }
+
+// A text longer than the lines its caller expects is shown whole: the box takes the lines the
+// wrapped text needs, so every white pixel of the text drawn without limit is in the box too.
+TEST(Mensajes, ALongTextIsNeverCutOff) {
+    const QString largo =
+        "Esta parte del programa aún no está disponible en esta versión de la mesa. "
+        "Cuando lo esté, podrá elegir aquí el juego, sus normas y los jugadores, y sus "
+        "cambios se guardarán en cuanto los haga.";
+    auto blancos = [](const QImage& caja) {
+        int n = 0;
+        for (int y = 52; y < caja.height() - 70; ++y)
+            for (int x = 17; x < 413; ++x) n += caja.pixel(x, y) == qRgb(255, 255, 255);
+        return n;
+    };
+    EXPECT_GE(LineasDelMensaje(largo, 1), 3);
+    EXPECT_EQ(LineasDelMensaje("Sí.", 2), 2) << "a short text keeps the lines it was given";
+    const QImage corta = ImagenMensaje("Normas de juego", largo, 1, 1);
+    const QImage holgada = ImagenMensaje("Normas de juego", largo, 12, 1);
+    EXPECT_EQ(corta.height(), 136 + 16 * LineasDelMensaje(largo, 1));
+    EXPECT_EQ(blancos(corta), blancos(holgada)) << "some line of the text is cut off";
+}

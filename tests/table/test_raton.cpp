@@ -10,6 +10,7 @@
 #include "table/Dibujo.h"
 #include "table/Mensajes.h"
 #include "table/Popup.h"
+#include "table/Pulsadores.h"
 #include "table/Raton.h"
 
 #include <QKeyEvent>
@@ -243,4 +244,39 @@ TEST(Raton, ACardDraggedWithinTheHandGoesBeforeTheCardItIsDroppedOn) {
     }
     EXPECT_EQ(NumCartas[4][1], 5);
     OrdenManual = false;
+}
+
+// The action buttons carry their captions, and sound as a press and as a release.
+TEST(Raton, AnActionButtonShowsItsCaptionAndClicksTwice) {
+    MesaDePrueba mesa;
+    // The caption is written in dark brown across the middle of the button.
+    auto tinta = [](const QImage& b) {
+        int n = 0;
+        for (int y = 0; y < b.height(); ++y)
+            for (int x = 0; x < b.width(); ++x) {
+                const QColor c = b.pixelColor(x, y);
+                n += c.red() < 90 && c.green() < 60 && c.blue() < 30;
+            }
+        return n;
+    };
+    for (int indice : {PULSADOR_SERVIDO, PULSADOR_CARTA, PULSADOR_DESCARTO, PULSADOR_NO_MUS}) {
+        const QString rotulo = EtiquetaControl[indice];
+        EtiquetaControl[indice].clear();
+        DibujaPulsador(indice, false);
+        const int sinRotulo = tinta(Pic_Pulsador[indice].Imagen);
+        EtiquetaControl[indice] = rotulo;
+        DibujaPulsador(indice, false);
+        EXPECT_GT(tinta(Pic_Pulsador[indice].Imagen), sinRotulo + 20) << "caption of " << indice;
+    }
+    std::vector<int> oidos;
+    SonidoMesaOido = [&](int id) { oidos.push_back(id); };
+    ColocaPulsador(4, PULSADOR_SERVIDO);
+    EsperandoPersona = true;
+    PulsaPulsador(PULSADOR_SERVIDO);
+    SonidoMesaOido = nullptr;
+    EXPECT_TRUE(PideServido);
+    EXPECT_FALSE(EsperandoPersona);
+    EXPECT_EQ(oidos, (std::vector<int>{SONIDO_SELECCION, SONIDO_SUELTA}));
+    PideServido = false;
+    Pic_Pulsador[PULSADOR_SERVIDO].Visible = false;
 }
