@@ -363,7 +363,8 @@ int CursorEnCaja(const QRect& caja, const QString& texto, int x, bool derecha) {
 }
 
 QWidget* VentanaAjustesActiva() {
-    return Activo;
+    // A window that has been closed is gone for the hands, though its loop has yet to return.
+    return Activo && Activo->isVisible() ? Activo.data() : nullptr;
 }
 
 QPointF PuntoDeVentana(int x, int y) {

@@ -146,6 +146,7 @@ TEST(Normas, SpinsStepWithinTheirLimitsAndKeepWhatIsTyped) {
     auto escribe = [](const QString& texto) {
         return [=](Formulario& f) {
             Clic(CajaDeSpin(*Control(f, TipoControl::Spin, 76)).center());
+            Tecla(Qt::Key_End); // the caret after what the box shows, then all of it is wiped
             for (int i = 0; i < 4; ++i) Tecla(Qt::Key_Backspace);
             Escribe(texto);
             Tecla(Qt::Key_Tab); // the box is left
