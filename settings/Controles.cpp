@@ -17,12 +17,12 @@ namespace {
 
 constexpr std::array<FilaSpin, 77> FilasSpin() {
     std::array<FilaSpin, 77> filas{};
-    filas[71] = {5, 995, 5, "@@@"};  // RestoInicial
-    filas[72] = {0, 999, 1, "@@@"};  // ApuestaMinima
-    filas[73] = {5, 995, 5, "@@@"};  // ApuestaMaxima
-    filas[74] = {1, 999, 1, "@@@"};  // LimitePartida
-    filas[75] = {1, 5, 1, "@@@"};    // LimiteDescartes
-    filas[76] = {20, 50, 10, "@@"};  // PiedrasJuego
+    filas[71] = {5, 995, 5, "@@@"}; // RestoInicial
+    filas[72] = {0, 999, 1, "@@@"}; // ApuestaMinima
+    filas[73] = {5, 995, 5, "@@@"}; // ApuestaMaxima
+    filas[74] = {1, 999, 1, "@@@"}; // LimitePartida
+    filas[75] = {1, 5, 1, "@@@"};   // LimiteDescartes
+    filas[76] = {20, 50, 10, "@@"}; // PiedrasJuego
     return filas;
 }
 
@@ -113,8 +113,8 @@ void CajaDeTexto(QPainter& p, const QRectF& caja, const QString& texto, bool edi
     if (!editando) return;
     const QFontMetricsF m(p.font());
     const double antes = m.horizontalAdvance(texto.left(cursor));
-    const double x = derecha ? dentro.right() - m.horizontalAdvance(texto) + antes
-                             : dentro.left() + antes;
+    const double x =
+        derecha ? dentro.right() - m.horizontalAdvance(texto) + antes : dentro.left() + antes;
     p.setPen(QPen(QColor(0, 0, 0), 1));
     p.drawLine(QPointF(x + 0.5, caja.top() + 3), QPointF(x + 0.5, caja.bottom() - 3));
 }
@@ -163,7 +163,7 @@ void LlenaTextosAjustes() {
         for (QString& texto : fila) texto = QString(LARGO_OPCION, ' ');
     Opciones(1, {"Automático", "Manual"});
     for (int v = 2; v <= 14; ++v) {
-        static const char* const cartas[15] = {"", "", "2", "3", "4", "5", "6", "7",
+        static const char* const cartas[15] = {"",  "",  "2",  "3", "4", "5", "6", "7",
                                                "8", "9", "10", "J", "Q", "K", "A"};
         OpcionSelector[2][v - 1] =
             ("Mínimo pareja de " + QString::fromLatin1(cartas[v])).leftJustified(LARGO_OPCION);
@@ -185,9 +185,9 @@ void LlenaTextosAjustes() {
         Opciones(30 + s, {"Conservador", "Medio", "Agresivo"});
     }
     Opciones(19, {"Baraja completa (48 cartas)", "Baraja reducida (40 cartas)"});
-    Opciones(20, {"No se considera", "3 Sietes y una Sota", "3 Sietes y un Rey",
-                  "3 Sietes y un Rey barbado", "3 Sietes y una Figura",
-                  "Sietes C.E.B. y Sota Oros"});
+    Opciones(20,
+             {"No se considera", "3 Sietes y una Sota", "3 Sietes y un Rey",
+              "3 Sietes y un Rey barbado", "3 Sietes y una Figura", "Sietes C.E.B. y Sota Oros"});
     Opciones(29, {"Mus a 4 Reyes", "Mus a 8 Reyes"});
     Opciones(30, {"Un juego", "Tres juegos (Una vaca)", "Nueve juegos (Tres vacas)"});
     Opciones(35, {"Vertical", "Horizontal"});
@@ -373,9 +373,7 @@ void DibujaMarco(QPainter& p, const QRect& zona, const QString& titulo,
     // The top edge is broken where its captions stand, so that they read on any ground.
     const double x0 = titulo.isEmpty() ? r.left() : r.left() + 6;
     const double x1 = titulo.isEmpty() ? r.left() : r.left() + 10 + m.horizontalAdvance(titulo);
-    const double x3 = tituloDerecha.isEmpty()
-                          ? r.right()
-                          : r.right() - 6;
+    const double x3 = tituloDerecha.isEmpty() ? r.right() : r.right() - 6;
     const double x2 =
         tituloDerecha.isEmpty() ? r.right() : x3 - 4 - m.horizontalAdvance(tituloDerecha);
     p.setPen(QPen(QColor(0x80, 0x80, 0x80), 1));
@@ -396,8 +394,7 @@ void DibujaMarco(QPainter& p, const QRect& zona, const QString& titulo,
 
 void DibujaSelector(QPainter& p, const ControlPintado& c, int valor) {
     const QRect z = c.Zona;
-    DibujaMarco(p, QRect(z.x(), z.y() + 6, z.width(), z.height() - 6),
-                EtiquetaControl[c.Indice]);
+    DibujaMarco(p, QRect(z.x(), z.y() + 6, z.width(), z.height() - 6), EtiquetaControl[c.Indice]);
     // The arrow: a press steps to the next value.
     const QRectF flecha = Relativa(c, 4, 14, 30, 21);
     PintaPlaca(p, flecha.adjusted(0.5, 0.5, -0.5, -0.5), c.Hundido, 3);

@@ -53,12 +53,12 @@ struct FilaSpin {
 // The rows of the spins 71 to 76: their limits, their step and how the value is written.
 extern const std::array<FilaSpin, 77> AjusteSpin;
 
-inline int JuegoAlAbrir = 0;          // JuegoActual when Normas opened
-inline bool SpinPulsado = false;      // a mouse button is down on an arrow of a spin
+inline int JuegoAlAbrir = 0;            // JuegoActual when Normas opened
+inline bool SpinPulsado = false;        // a mouse button is down on an arrow of a spin
 inline bool JugadoresCambiados = false; // Personal changed the active seats
-inline int JugadorModiVoz = 1;        // the seat whose voice the voice panel shows
-inline int AnclaPotenciometro = 0;    // x of the last drag step of a knob
-inline int CursorAjustes = 0;         // the pointer shape over a settings window
+inline int JugadorModiVoz = 1;          // the seat whose voice the voice panel shows
+inline int AnclaPotenciometro = 0;      // x of the last drag step of a knob
+inline int CursorAjustes = 0;           // the pointer shape over a settings window
 
 // Blanks the whole table of selector texts, then writes the texts and captions of every control
 // of both windows.

@@ -28,8 +28,8 @@ Hoja BuscaHoja(const QString& sencilla, const QString& doble, bool recurso) {
     if (recurso) {
         rutas << ":/assets/" + doble << ":/assets/" + sencilla;
     } else {
-        for (const QString& carpeta : {CarpetaTrabajo, CarpetaPrograma,
-                                       QStringLiteral(TRUFAL_SOURCE_DIR "/assets/")}) {
+        for (const QString& carpeta :
+             {CarpetaTrabajo, CarpetaPrograma, QStringLiteral(TRUFAL_SOURCE_DIR "/assets/")}) {
             if (carpeta.isEmpty()) continue;
             rutas << ConSeparador(carpeta) + doble << ConSeparador(carpeta) + sencilla;
         }
@@ -79,8 +79,8 @@ QImage CeldaAlTamano(const Hoja& hoja, const QRectF& celda, double anchoPx, doub
     auto hecha = hechas.constFind(clave);
     if (hecha != hechas.constEnd()) return *hecha;
     if (hechas.size() > 400) hechas.clear();
-    const QImage imagen = hoja.Imagen.copy(celda.toRect()).scaled(w, h, Qt::IgnoreAspectRatio,
-                                                                 Qt::SmoothTransformation);
+    const QImage imagen = hoja.Imagen.copy(celda.toRect())
+                              .scaled(w, h, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     hechas.insert(clave, imagen);
     return imagen;
 }
@@ -99,8 +99,7 @@ QPainterPath Contorno(const QRectF& r) {
 }
 
 // A card standing at a point, turned by angulo degrees, alto pixels high.
-void Carta(QPainter& p, int tipo, int palo, int valor, QPointF centro, double alto,
-           double angulo) {
+void Carta(QPainter& p, int tipo, int palo, int valor, QPointF centro, double alto, double angulo) {
     const double ancho = alto * PROPORCION_CARTA;
     const QRectF r(-ancho / 2, -alto / 2, ancho, alto);
     p.save();
@@ -112,7 +111,8 @@ void Carta(QPainter& p, int tipo, int palo, int valor, QPointF centro, double al
     if (!hoja.Imagen.isNull()) {
         p.setClipPath(forma, Qt::IntersectClip);
         const double k = hoja.K;
-        PintaCelda(p, r, hoja, QRectF((valor - 1) * 101 * k, (palo - 1) * 141 * k, 101 * k, 141 * k));
+        PintaCelda(p, r, hoja,
+                   QRectF((valor - 1) * 101 * k, (palo - 1) * 141 * k, 101 * k, 141 * k));
         p.setClipping(false);
     } else {
         p.fillPath(forma, Qt::white);
@@ -163,8 +163,8 @@ std::vector<Naipe> NaipesDe(int juego) {
     case JUEGO_SIETEYMEDIA:
         return {{E, 1, 7, 15, 15, -9}, {E, 2, 10, 27, 15, 9}};
     case JUEGO_CINQUILLO:
-        return {{E, 1, 5, 8, 15, 0}, {E, 2, 5, 17, 15, 0}, {E, 3, 5, 26, 15, 0},
-                {E, 4, 5, 35, 15, 0}};
+        return {
+            {E, 1, 5, 8, 15, 0}, {E, 2, 5, 17, 15, 0}, {E, 3, 5, 26, 15, 0}, {E, 4, 5, 35, 15, 0}};
     case JUEGO_MUS:
         return {{E, 1, 12, 12, 15, -10}, {E, 3, 12, 22, 15, 6}};
     case JUEGO_CHINCHON:
@@ -232,8 +232,8 @@ void DibujaSentido(QPainter& p, int sentido, const QRectF& caja) {
         p.strokePath(arco, QPen(QColor(255, 226, 60), 3.2, Qt::SolidLine, Qt::RoundCap));
         const double r = qDegreesToRadians(a1);
         const QPointF fin = c + QPointF(radio * std::cos(r), -radio * std::sin(r));
-        const QPointF t = paso < 0 ? QPointF(std::sin(r), std::cos(r))
-                                   : QPointF(-std::sin(r), -std::cos(r));
+        const QPointF t =
+            paso < 0 ? QPointF(std::sin(r), std::cos(r)) : QPointF(-std::sin(r), -std::cos(r));
         const QPointF n(-t.y(), t.x());
         QPainterPath punta;
         punta.moveTo(fin + t * 7);

@@ -115,8 +115,8 @@ double EscalaInicial(const Formulario& f) {
         espacio = mesa->AreaMesa().size();
     else if (const QScreen* pantalla = QGuiApplication::primaryScreen())
         espacio = pantalla->availableGeometry().size();
-    double k = std::max(1.0, std::min(espacio.width() / ANCHO_REFERENCIA,
-                                      espacio.height() / ALTO_REFERENCIA));
+    double k = std::max(
+        1.0, std::min(espacio.width() / ANCHO_REFERENCIA, espacio.height() / ALTO_REFERENCIA));
     if (const QScreen* pantalla = QGuiApplication::primaryScreen()) {
         const QSize libre = pantalla->availableGeometry().size();
         k = std::min({k, libre.width() / double(f.Ancho), libre.height() / double(f.Alto)});
@@ -332,8 +332,8 @@ bool TeclaFormulario(Formulario& f, int tecla, const QString& texto, bool mayusc
             RepintaFormulario();
             return true;
         }
-        const bool paso = tecla == Qt::Key_Up || tecla == Qt::Key_Down ||
-                          tecla == Qt::Key_PageUp || tecla == Qt::Key_PageDown;
+        const bool paso = tecla == Qt::Key_Up || tecla == Qt::Key_Down || tecla == Qt::Key_PageUp ||
+                          tecla == Qt::Key_PageDown;
         if (!paso) return EditaTexto(f, tecla, texto);
         // What was typed counts before the arrows step from it.
         if (f.TextoSpin) f.TextoSpin(f.Foco);
@@ -416,7 +416,9 @@ void PintaFoco(QPainter& p, const Formulario& f) {
 void CambiaSelector(Formulario& f, int posicion, int& valor, int direccion) {
     SuenaAjustes(SONIDO_SINCRONO, SONIDO_SELECCION);
     const int indice = f.Controles[posicion].Indice;
-    auto vacio = [&](int v) { return v < 1 || v > 15 || OpcionSelector[indice][v].trimmed().isEmpty(); };
+    auto vacio = [&](int v) {
+        return v < 1 || v > 15 || OpcionSelector[indice][v].trimmed().isEmpty();
+    };
     if (direccion >= 0) {
         ++valor;
         if (vacio(valor)) valor = 1;

@@ -24,8 +24,8 @@ struct Formulario {
     int Cursor = 0;  // the caret in it
     bool Abierto = false;
 
-    std::function<void(QPainter&)> Pinta;            // the whole window
-    std::function<void(int x, int y)> Pulsa;         // left button down
+    std::function<void(QPainter&)> Pinta;    // the whole window
+    std::function<void(int x, int y)> Pulsa; // left button down
     std::function<void(int x, int y, bool boton)> Mueve;
     std::function<void(int x, int y)> Suelta;
     std::function<void(int posicion, int direccion)> Paso; // a key steps a control

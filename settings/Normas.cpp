@@ -18,8 +18,8 @@ constexpr int TEMA_NORMAS = 2140, TEMA_LISTA_JUEGOS = 2159, TEMA_TIPO_BARAJA = 2
               TEMA_TIPO_MUS = 2160;
 
 // The list of games, in its order, and where it stands.
-constexpr int ORDEN_JUEGOS[9] = {JUEGO_BLACKJACK, JUEGO_BRISCA, JUEGO_CHINCHON,
-                                 JUEGO_CINQUILLO, JUEGO_MUS,     JUEGO_POKER,
+constexpr int ORDEN_JUEGOS[9] = {JUEGO_BLACKJACK, JUEGO_BRISCA,      JUEGO_CHINCHON,
+                                 JUEGO_CINQUILLO, JUEGO_MUS,         JUEGO_POKER,
                                  JUEGO_PUMBA,     JUEGO_SIETEYMEDIA, JUEGO_TUTE};
 const QRect PANEL_JUEGOS(10, 18, 180, 326);
 constexpr int FILA_JUEGO = 34, MARGEN_NOMBRE_JUEGO = 70;
@@ -312,9 +312,9 @@ void ColocaNormas() {
     const int yBotones = ALTO_NORMAS - LADO_BOTON - 10;
     Normas.Controles.push_back(
         {TipoControl::Ayuda, 0, QRect(10, yBotones, LADO_BOTON, LADO_BOTON)});
-    Normas.Controles.push_back({TipoControl::Salir, 0,
-                                QRect(Normas.Ancho - 10 - LADO_BOTON, yBotones, LADO_BOTON,
-                                      LADO_BOTON)});
+    Normas.Controles.push_back(
+        {TipoControl::Salir, 0,
+         QRect(Normas.Ancho - 10 - LADO_BOTON, yBotones, LADO_BOTON, LADO_BOTON)});
     Normas.Pinta = PintaNormas;
     Normas.Pulsa = PulsaEnNormas;
     Normas.Mueve = MueveEnNormas;

@@ -30,8 +30,8 @@ constexpr int DESPLAZA_MODIVOZ = 108; // the voice panel stands this far left of
 const QRect MARCO_REVERSO(580, 366, 200, 110);
 const QRect CAJA_REVERSO(596, 383, 60, 84);
 
-constexpr int TEMA_PERSONAL = 2110, TEMA_JUGADORES = 2113, TEMA_CONTROL = 2114,
-              TEMA_CARTAS = 2117, TEMA_VOZ = 2126, TEMA_VOCES = 7010;
+constexpr int TEMA_PERSONAL = 2110, TEMA_JUGADORES = 2113, TEMA_CONTROL = 2114, TEMA_CARTAS = 2117,
+              TEMA_VOZ = 2126, TEMA_VOCES = 7010;
 
 // Indices of the controls of the window.
 constexpr int SELECTOR_SENTIDO = 8, SELECTOR_INFORMACION = 9, SELECTOR_SEXO = 10;
@@ -55,8 +55,7 @@ bool EsPanelVoz(const ControlPintado& c) {
 
 int PosicionDe(TipoControl tipo, int indice) {
     for (int i = 0; i < int(Personal.Controles.size()); ++i)
-        if (Personal.Controles[i].Tipo == tipo && Personal.Controles[i].Indice == indice)
-            return i;
+        if (Personal.Controles[i].Tipo == tipo && Personal.Controles[i].Indice == indice) return i;
     return -1;
 }
 
@@ -99,8 +98,7 @@ void ActualizaVisibles() {
             if (c.Tipo == TipoControl::Pulsador)
                 c.Visible = c.Visible && SonidoActivado && VocesActivadas;
         }
-        if (c.Tipo == TipoControl::Buleano && c.Indice == LAMPARA_VOCES)
-            c.Visible = SonidoActivado;
+        if (c.Tipo == TipoControl::Buleano && c.Indice == LAMPARA_VOCES) c.Visible = SonidoActivado;
     }
 }
 
@@ -591,8 +589,8 @@ void ColocaPersonal() {
     Anade(TipoControl::Potenciometro, POTENCIOMETRO_VELOCIDAD, QRect(19, 380, 206, 44));
     Anade(TipoControl::Pulsador, PULSADOR_REVERSO, QRect(670, 414, 96, ALTO_PULSADOR));
     Anade(TipoControl::Ayuda, 0, QRect(19, 520, LADO_BOTON, LADO_BOTON));
-    Anade(TipoControl::Salir, 0, QRect(ANCHO_PERSONAL - 19 - LADO_BOTON, 520, LADO_BOTON,
-                                      LADO_BOTON));
+    Anade(TipoControl::Salir, 0,
+          QRect(ANCHO_PERSONAL - 19 - LADO_BOTON, 520, LADO_BOTON, LADO_BOTON));
     // The voice panel, over everything else.
     Anade(TipoControl::Selector, SELECTOR_SEXO, QRect());
     Anade(TipoControl::Potenciometro, POTENCIOMETRO_TONO, QRect());

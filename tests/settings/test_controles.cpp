@@ -136,6 +136,7 @@ TEST(Controles, EachControlChangesItsOwnSettingAndNothingElse) {
         for (int s = 1; s <= 4; ++s) {
             CartasVisibles[s] = 2;
             ControlJugador[s] = 1;
+            VozTono[s] = VozVelocidad[s] = 50; // knobs that can move either way
         }
         SonidoActivado = VocesActivadas = true;
         MotorVozHombre = 1;

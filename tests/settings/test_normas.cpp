@@ -189,9 +189,9 @@ TEST(Normas, EachGameShowsItsOptionsAndTheSeatsDecideThePairs) {
         int Juego, Jugadores;
         bool Pareja;
         int Ancho;
-    } casos[] = {{JUEGO_TUTE, 4, true, 447},   {JUEGO_TUTE, 3, false, 447},
-                 {JUEGO_BRISCA, 2, false, 447}, {JUEGO_BRISCA, 4, true, 447},
-                 {JUEGO_POKER, 4, false, 653},  {JUEGO_MUS, 4, false, 653},
+    } casos[] = {{JUEGO_TUTE, 4, true, 447},     {JUEGO_TUTE, 3, false, 447},
+                 {JUEGO_BRISCA, 2, false, 447},  {JUEGO_BRISCA, 4, true, 447},
+                 {JUEGO_POKER, 4, false, 653},   {JUEGO_MUS, 4, false, 653},
                  {JUEGO_CHINCHON, 4, false, 447}};
     for (const auto& caso : casos) {
         JuegoActual = caso.Juego;

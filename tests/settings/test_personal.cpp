@@ -53,9 +53,8 @@ TEST(Personal, SeatsThatMustPlayStaySwitchedOnAndSayWhy) {
         if (caso.Juego == JUEGO_BLACKJACK) BancaDeBlackJack();
         int* ajuste = AjusteDeSelector(caso.Selector);
         const int antes = *ajuste;
-        AbreYActua(BOTON_PERSONALIZAR, [&] {
-            Pulsa(FormularioPersonal(), TipoControl::Selector, caso.Selector);
-        });
+        AbreYActua(BOTON_PERSONALIZAR,
+                   [&] { Pulsa(FormularioPersonal(), TipoControl::Selector, caso.Selector); });
         const std::string nombre =
             "game " + std::to_string(caso.Juego) + " selector " + std::to_string(caso.Selector);
         EXPECT_EQ(*ajuste == antes, caso.Ayuda != 0) << nombre;
@@ -88,9 +87,8 @@ TEST(Personal, HiddenCardsAndManualControlMendEachOther) {
         CartasJugador[4][1][1][CAMPO_CARA] = caso.Cartas;
         NumCartas[4][1] = 1;
         RespuestasGuionadas = {caso.Acepta};
-        AbreYActua(BOTON_PERSONALIZAR, [&] {
-            Pulsa(FormularioPersonal(), TipoControl::Selector, caso.Selector);
-        });
+        AbreYActua(BOTON_PERSONALIZAR,
+                   [&] { Pulsa(FormularioPersonal(), TipoControl::Selector, caso.Selector); });
         EXPECT_EQ(CartasVisibles[4], caso.CartasFin) << caso.Selector << " " << caso.Acepta;
         EXPECT_EQ(ControlJugador[4], caso.ControlFin) << caso.Selector << " " << caso.Acepta;
         EXPECT_EQ(CartasJugador[4][1][1][CAMPO_CARA], caso.CartasFin);
@@ -129,8 +127,8 @@ TEST(Personal, ActiveSeatsAreSettledWhenTheWindowCloses) {
             for (int s : caso.Apaga) Pulsa(f, TipoControl::Selector, 10 + s);
             Pulsa(f, TipoControl::Salir, 0);
         });
-        const std::string nombre = "hand " + std::to_string(caso.Mano) + " off " +
-                                   std::to_string(caso.Apaga.size());
+        const std::string nombre =
+            "hand " + std::to_string(caso.Mano) + " off " + std::to_string(caso.Apaga.size());
         EXPECT_EQ(cerrada, caso.Cierra) << nombre;
         EXPECT_EQ(Visto("Número de Jugadores") != nullptr, !caso.Cierra) << nombre;
         EXPECT_EQ(Visto("Jugadores Activados") != nullptr, caso.Pregunta) << nombre;
@@ -237,9 +235,8 @@ TEST(Personal, VoicesWithoutAnEngineOfferThePageOnInstallingThem) {
         };
         FinPrograma = [&] { fin = true; };
         RespuestasGuionadas = {caso.Acepta};
-        AbreYActua(BOTON_PERSONALIZAR, [&] {
-            Pulsa(FormularioPersonal(), TipoControl::Buleano, 47);
-        });
+        AbreYActua(BOTON_PERSONALIZAR,
+                   [&] { Pulsa(FormularioPersonal(), TipoControl::Buleano, 47); });
         ASSERT_FALSE(MensajesVistos.empty());
         EXPECT_EQ(MensajesVistos.front().Titulo, "Voces de los jugadores");
         EXPECT_EQ(MensajesVistos.front().Ayuda, 7010);
@@ -263,18 +260,22 @@ TEST(Personal, ANewCardBackReachesTheSmallBacksOfTheWonTricks) {
     NumeroBaza = 1;
     GanadorDeBaza[1] = 2; // seat 2 has taken a trick: its small back lies on the table
     DibujaBazas(2);
-    const QImage antes = Pic_ReversoRedu[2].Imagen;
+    // The small back lies as its seat's cards lie: upright at the sides, flat at top and bottom.
+    const bool dePie = OrientacionSeat[2] == 1 || OrientacionSeat[2] == 3;
+    const int ancho = dePie ? 76 : 107, alto = dePie ? 107 : 76;
+    const QImage antes = Pic_ReversoRedu[dePie ? 1 : 2].Imagen;
     AbreYActua(BOTON_PERSONALIZAR, [&] {
         Formulario& f = FormularioPersonal();
         for (int i = 0; i < 3; ++i) Pulsa(f, TipoControl::Pulsador, 89);
         Pulsa(f, TipoControl::Salir, 0);
     });
     EXPECT_EQ(ReversoCartas, 4);
-    const QImage despues = Pic_ReversoRedu[2].Imagen;
+    const QImage despues = Pic_ReversoRedu[dePie ? 1 : 2].Imagen;
     EXPECT_NE(despues, antes);
     const QRect bloque = BloquePila(2);
-    const QImage enMesa = Pic_Mesa.Imagen.copy(bloque.x() + (bloque.width() - 107) / 2,
-                                               bloque.y() + (bloque.height() - 76) / 2, 107, 76);
+    const QImage enMesa =
+        Pic_Mesa.Imagen.copy(bloque.x() + (bloque.width() - ancho) / 2,
+                             bloque.y() + (bloque.height() - alto) / 2, ancho, alto);
     EXPECT_EQ(enMesa.convertToFormat(QImage::Format_RGB32),
               despues.convertToFormat(QImage::Format_RGB32))
         << "the trick on the table shows the new back";
