@@ -176,7 +176,12 @@ void PintaPersonal(QPainter& p) {
         }
         PintaControl(p, Personal, i, ValorControl(c));
     }
-    PintaFoco(p, Personal);
+    // The open voice panel hides the frame of a focused control that lies under it.
+    const bool tapado = PanelVozVisible && Personal.Foco >= 0 &&
+                        !EsPanelVoz(Personal.Controles[Personal.Foco]) &&
+                        Personal.Controles[Personal.Foco].Zona.intersects(
+                            QRect(OrigenModiVoz, QSize(ANCHO_MODIVOZ, ALTO_MODIVOZ)));
+    if (!tapado) PintaFoco(p, Personal);
 }
 
 // ---- The seats' selectors ----
