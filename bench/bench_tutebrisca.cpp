@@ -9,6 +9,7 @@
 #include "frame/TrufalGbl.h"
 #include "games/tutebrisca/Reglas.h"
 #include "games/tutebrisca/Simulacion.h"
+#include "platform/CajaImagen.h"
 
 namespace {
 
@@ -57,13 +58,18 @@ void BenchTuteBrisca() {
         std::printf("  %-6s %d jugadores, %d cartas: %10.3f ms\n", c.nombre, c.jugadores, c.cartas,
                     PeorSimulacion(c.juego, c.jugadores, c.cartas, 5));
 
-    std::printf("Manos automáticas por segundo (pausas a cero, sin vuelos, mesa sin ventana):\n");
+    std::printf("Manos automáticas por segundo (pausas a cero, sin vuelos, mesa sin ventana),\n"
+                "con la mesa pintada y con el juego solo (sin pintar):\n");
     for (int jugadores = 2; jugadores <= 4; ++jugadores) {
-        std::printf(
-            "  Tute   %d jugadores: %8.1f\n", jugadores,
-            ManosPorSegundo({JUEGO_TUTE, jugadores, false, [] { LimitePartida = 5; }}, 400));
-        std::printf(
-            "  Brisca %d jugadores: %8.1f\n", jugadores,
-            ManosPorSegundo({JUEGO_BRISCA, jugadores, false, [] { LimitePartida = 5; }}, 2000));
+        for (const int juego : {JUEGO_TUTE, JUEGO_BRISCA}) {
+            const MesaAutomatica mesa{juego, jugadores, false, [] { LimitePartida = 5; }};
+            const int manos = juego == JUEGO_TUTE ? 400 : 2000;
+            const double pintada = ManosPorSegundo(mesa, manos);
+            PinturaOmitida = true;
+            const double sola = ManosPorSegundo(mesa, manos);
+            PinturaOmitida = false;
+            std::printf("  %-6s %d jugadores: %8.1f %8.1f\n",
+                        juego == JUEGO_TUTE ? "Tute" : "Brisca", jugadores, pintada, sola);
+        }
     }
 }

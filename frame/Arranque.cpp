@@ -96,6 +96,16 @@ void FijaTamanoVentana(int anchoPantalla, int altoPantalla) {
     AltoVentana = std::max(altoPantalla, 600);
 }
 
+namespace {
+
+// What a window can take, panels left out, in the screen's own pixels.
+QSize TamanoFisico(const QScreen* pantalla) {
+    if (!pantalla) return QSize(1024, 768);
+    return pantalla->availableGeometry().size() * pantalla->devicePixelRatio();
+}
+
+} // namespace
+
 bool PruebaResolucion(int ancho, int alto) {
     if (ancho >= 800) return true; // the height isn't tested: the table takes 600 at least
     AnchoMesa = 640;
@@ -105,12 +115,12 @@ bool PruebaResolucion(int ancho, int alto) {
         "Este programa se ha diseñado para funcionar  con una resolución mínima de pantalla de "
         "800x600 con profundidad de color de 16 bits  o  superior. La resolución actual es de " +
             FormatoTexto(ancho, "@@@") + "x" + FormatoTexto(alto, "@@@") +
-            ". Pulse Aceptar para  cambiar  la  resolución  de  la pantalla a 800x600 o "
+            ". Pulse Aceptar para  abrir  la  mesa  reducida  al tamaño de la pantalla o "
             "Cancelar para abandonar el programa.",
         6, 2);
     AnchoMesa = AltoVentana = 0;
-    // The screen mode is left alone: the window keeps 800 by 600 as its least size and the
-    // table is shown scaled into it.
+    // The screen mode is left alone: the table keeps its 800 by 600 and is shown scaled into
+    // the window the screen allows.
     return RespuestaMensaje;
 }
 
@@ -124,18 +134,18 @@ void Main() {
     BuscaMotoresVoz();
     const QScreen* pantalla = QGuiApplication::primaryScreen();
     const QSize tamano = pantalla ? pantalla->size() : QSize(1024, 768);
-    if (!PruebaResolucion(tamano.width(), tamano.height())) SalidaInmediata();
+    const QSize fisico = TamanoFisico(pantalla);
+    if (!PruebaResolucion(fisico.width(), fisico.height())) SalidaInmediata();
     FijaTamanoVentana(tamano.width(), tamano.height());
     // A dense screen gets every picture at double resolution; the table keeps its sizes.
     EscalaMesa = pantalla && pantalla->devicePixelRatio() >= 1.5 ? 2 : 1;
     CargaMesa();
     PreparaMesa();
     PreparaBotonera();
-    // The table is up before the settings are read, so that a message about them stands on it.
-    CierraCareta();
-    MuestraMesa();
-    RefrescaMesa();
+    // The settings are read before the table is shown, so that its first picture has the right
+    // game and backs; a message about them shows the table first and stands on it.
     LeeConfiguracion();
+    AbreMesa();
     Mensaje("TRUFAL 3.2",
             "Si desea consultar una descripción general de este  programa  para  conocer  "
             "rápidamente su funcionamiento, pulse el botón de Ayuda.",

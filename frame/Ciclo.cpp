@@ -143,6 +143,7 @@ void NuevaPartida() {
 
 void AbreJuego() {
     LeeJuego();
+    ReversosReducidos(); // the small backs of won tricks follow this game's backs
     ParametrosJuego();
     ReversosReducidos(); // the small backs of the won tricks in the game's own design
     ColocaMazo();
@@ -325,8 +326,7 @@ void EligeMano() {
 }
 
 void FinPartida() {
-    // Pairs play only with four seats.
-    if (ModalidadPareja == 1 || NumJugadores != 4) {
+    if (ModalidadPareja == 1) {
         TextoMensaje = SaltoLinea;
         if (GanadorPartida == 4)
             TextoMensaje += NombreJugador[4] + ", has ganado la partida. ";

@@ -447,6 +447,8 @@ void AceptaJuego() {
     }
     for (const Rango& rango : RANGOS_JUEGO)
         Acota(*rango.Valor, rango.Minimo, rango.Maximo, rango.Defecto);
+    // Pairs exist only with four players: a file that says otherwise is played singly.
+    if (NumJugadores != 4) ModalidadPareja = 1;
 }
 
 // In Black Jack seat 2 is always the bank, and every hand plays face up.

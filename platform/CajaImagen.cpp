@@ -109,7 +109,7 @@ const QRgb* Fila(const QImage& imagen, const uchar* bits, int y, int x) {
 
 void Transfiere(QImage& destino, int x, int y, int ancho, int alto, const QImage& origen, int xs,
                 int ys, OpRaster op) {
-    if (destino.isNull() || origen.isNull()) return;
+    if (PinturaOmitida || destino.isNull() || origen.isNull()) return;
     // Table pixels to picture pixels; a source of another resolution is brought to the target's.
     const int k = qRound(destino.devicePixelRatio());
     QImage ajustada;
@@ -147,7 +147,7 @@ void Transfiere(QImage& destino, int x, int y, int ancho, int alto, const QImage
 
 void TransfiereConMascara(QImage& destino, int x, int y, int ancho, int alto, const QImage& mascara,
                           int xm, int ym, const QImage& imagen, int xi, int yi) {
-    if (destino.isNull() || mascara.isNull() || imagen.isNull()) return;
+    if (PinturaOmitida || destino.isNull() || mascara.isNull() || imagen.isNull()) return;
     const int k = qRound(destino.devicePixelRatio());
     QImage ajustadaMascara, ajustadaImagen;
     const QImage& m = FuenteAjustada(mascara, k, ajustadaMascara);
@@ -165,6 +165,20 @@ void TransfiereConMascara(QImage& destino, int x, int y, int ancho, int alto, co
         const QRgb* si = Fila(f, bitsImagen, b.Ys[1] + j, b.Xs[1]);
         for (int i = 0; i < b.Ancho; ++i) d[i] = ((d[i] & sm[i]) ^ si[i]) | 0xFF000000u;
     }
+}
+
+void Rellena(QImage& destino, int x, int y, int ancho, int alto, unsigned colorRgb) {
+    if (PinturaOmitida || destino.isNull()) return;
+    const int k = qRound(destino.devicePixelRatio());
+    const QImage* ninguna[2] = {nullptr, nullptr};
+    Bloque b{x * k, y * k, ancho * k, alto * k, {0, 0}, {0, 0}};
+    if (!Recorta(b, destino, ninguna, 0)) return;
+    PreparaDestino(destino, k);
+    uchar* bits = destino.bits();
+    const qsizetype linea = destino.bytesPerLine();
+    const QRgb color = colorRgb | 0xFF000000u;
+    for (int j = 0; j < b.Alto; ++j)
+        std::fill_n(reinterpret_cast<QRgb*>(bits + (b.Y + j) * linea) + b.X, b.Ancho, color);
 }
 
 QImage GiraCuarto(const QImage& imagen) {

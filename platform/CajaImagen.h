@@ -29,6 +29,10 @@ QImage CopiaLogica(const QImage& imagen, int x, int y, int ancho, int alto);
 // there is one of the right size, else the same picture enlarged.
 QImage AEscalaMesa(const QImage& sencilla, const QImage& doble = QImage());
 
+// While true, nothing is painted on any picture box: the benchmark times the games alone with it.
+// Play and tests never set it; the table's picture is then whatever was last painted.
+inline bool PinturaOmitida = false;
+
 enum class OpRaster { Copia, And, Xor, Or };
 
 // Gives the box a new size, filled with a colour; what it held is lost.
@@ -44,6 +48,9 @@ void Transfiere(QImage& destino, int x, int y, int ancho, int alto, const QImage
 // with the picture at (xi, yi). The same pixels as the two transfers one after the other.
 void TransfiereConMascara(QImage& destino, int x, int y, int ancho, int alto, const QImage& mascara,
                           int xm, int ym, const QImage& imagen, int xi, int yi);
+
+// Fills a block, in table pixels, with one colour; parts outside the picture are clipped.
+void Rellena(QImage& destino, int x, int y, int ancho, int alto, unsigned colorRgb);
 
 // A quarter turn clockwise: pixel (x, y) goes to (height - 1 - y, x) of the turned picture, so
 // the sheet of a seat on the left reads from the table's middle.

@@ -82,6 +82,7 @@ QFont LetraMesa(int pixeles, bool negrita) {
 
 void EscribeConSombra(QImage& destino, const QRect& caja, int alineacion, const QString& texto,
                       const QFont& letra, const QColor& color, const QColor& sombra) {
+    if (PinturaOmitida) return;
     QPainter p(&destino);
     p.setFont(letra);
     p.setPen(sombra);
@@ -91,9 +92,7 @@ void EscribeConSombra(QImage& destino, const QRect& caja, int alineacion, const 
 }
 
 void BorraZona(int x, int y, int ancho, int alto) {
-    if (Pic_Mesa.Imagen.isNull() || ancho <= 0 || alto <= 0) return;
-    QPainter p(&Pic_Mesa.Imagen);
-    p.fillRect(QRect(x, y, ancho, alto), QColor::fromRgb(COLOR_MESA));
+    if (ancho > 0 && alto > 0) Rellena(Pic_Mesa.Imagen, x, y, ancho, alto, COLOR_MESA);
 }
 
 void BorraCarta(int x, int y) {

@@ -167,6 +167,8 @@ int LineasDelMensaje(const QString& texto, int lineas) {
 
 QImage ImagenMensaje(const QString& titulo, const QString& texto, int lineas, int botones,
                      int ayuda) {
+    // A message once the table is drawn stands on it, even before it was first shown.
+    if (Mesa() && !Mesa()->isVisible() && !Pic_Mesa.Imagen.isNull()) AbreMesa();
     lineas = LineasDelMensaje(texto, lineas);
     VentanaMensajes ventana(titulo, texto, lineas, botones, ayuda);
     QImage imagen(ventana.size(), QImage::Format_RGB32);
@@ -202,6 +204,8 @@ void Mensaje(const QString& titulo, const QString& texto, int lineas, int botone
         }
         return;
     }
+    // A message once the table is drawn stands on it, even before it was first shown.
+    if (Mesa() && !Mesa()->isVisible() && !Pic_Mesa.Imagen.isNull()) AbreMesa();
     lineas = LineasDelMensaje(texto, lineas);
     VentanaMensajes ventana(titulo, texto, lineas, botones, ayuda);
     const GeometriaMensaje g = CalculaMensaje(lineas);

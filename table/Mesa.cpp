@@ -1,5 +1,7 @@
 #include "table/Mesa.h"
 
+#include "table/Careta.h"
+
 #include "frame/Ciclo.h"
 #include "frame/TrufalGbl.h"
 #include "table/Botonera.h"
@@ -125,6 +127,13 @@ void MuestraMesa() {
     LaMesa->showMaximized();
     LaMesa->raise();
     LaMesa->activateWindow();
+}
+
+void AbreMesa() {
+    if (LaMesa && LaMesa->isVisible()) return;
+    CierraCareta();
+    MuestraMesa();
+    RefrescaMesa();
 }
 
 VentanaMesa* Mesa() {

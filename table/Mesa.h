@@ -26,6 +26,8 @@ class VentanaMesa : public QWidget {
 // Creates the window (it stays hidden until MuestraMesa).
 void CargaMesa();
 void MuestraMesa();
+// The splash gives way to the table, the first time only.
+void AbreMesa();
 VentanaMesa* Mesa();
 // Sets the pointer shape: below 20 a standard pointer (12 the "no drop"), above 20 one of the
 // program's own.

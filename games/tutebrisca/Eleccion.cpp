@@ -83,8 +83,8 @@ void OrdenaCandidatas(const int claves[], int n) {
     for (int pos = 1; pos <= n; ++pos) Lis_Ordenar.Agrega(Formato(claves[pos], "0000"), pos);
     for (int i = 1; i <= MAX_CANDIDATAS; ++i) {
         const bool lleno = i <= n;
-        Candidatas[i][CAND_CLAVE] = lleno ? static_cast<int>(Val(Lis_Ordenar.Texto(i - 1))) : 0;
         Candidatas[i][CAND_POSICION] = lleno ? Lis_Ordenar.Dato(i - 1) : 0;
+        Candidatas[i][CAND_CLAVE] = lleno ? claves[Candidatas[i][CAND_POSICION]] : 0;
     }
 }
 

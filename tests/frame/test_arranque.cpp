@@ -76,6 +76,9 @@ TEST(Arranque, TheScreenTestAsksOnlyBelow800AndTheTableIsNeverSmaller) {
     ASSERT_EQ(MensajesVistos.size(), 1u);
     EXPECT_EQ(MensajesVistos[0].Titulo, "Resolución de pantalla");
     EXPECT_TRUE(MensajesVistos[0].Texto.contains("La resolución actual es de 640x480. Pulse"));
+    // Nothing changes the screen here: the text offers the table scaled, not a new mode.
+    EXPECT_TRUE(MensajesVistos[0].Texto.contains("abrir  la  mesa  reducida"));
+    EXPECT_FALSE(MensajesVistos[0].Texto.contains("cambiar"));
     EXPECT_EQ(MensajesVistos[0].Lineas, 6);
     EXPECT_EQ(MensajesVistos[0].Botones, 2);
 }

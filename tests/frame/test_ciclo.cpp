@@ -15,6 +15,7 @@
 #include "platform/Reloj.h"
 #include "support/MesaDePrueba.h"
 #include "table/Botonera.h"
+#include "table/Dibujo.h"
 #include "table/Mensajes.h"
 #include "table/Raton.h"
 
@@ -59,6 +60,26 @@ TEST(Ciclo, PauseDeliversNoEventsAndClearsItsMark) {
     EXPECT_EQ(MarcaTiempo, 0);
     QCoreApplication::processEvents();
     EXPECT_TRUE(entregado);
+}
+
+TEST(Ciclo, TheSmallBacksOfWonTricksFollowTheGameOpened) {
+    MesaDePrueba mesa;
+    JuegoActual = JUEGO_BRISCA;
+    AbreJuego();
+    QImage pequeno[6];
+    for (int diseno : {2, 5}) {
+        ReversoCartas = diseno;
+        ReversosReducidos();
+        pequeno[diseno] = Pic_ReversoRedu[1].Imagen;
+    }
+    ASSERT_NE(pequeno[2], pequeno[5]);
+    ReversoCartas = 5; // Brisca's own backs, kept in its file
+    GrabaJuego();
+    ReversoCartas = 2; // the game played before used others
+    ReversosReducidos();
+    AbreJuego();
+    EXPECT_EQ(ReversoCartas, 5);
+    EXPECT_EQ(Pic_ReversoRedu[1].Imagen, pequeno[5]);
 }
 
 TEST(Ciclo, TheDrawNamesTheSeatThatGotTheFirstAceAndHandsRotate) {

@@ -289,9 +289,10 @@ TEST_F(Ficheros, JuegoGrabadoSeLeeColumnaAColumna) {
         int* valor;
         int puesto;
     };
+    // Pairs need four players; a file with fewer is read singly (checked with the clamps).
     const Entero enteros[] = {
         {&ModalidadPareja, 2},  {&LeyApertura, 14},       {&SentidoJuego, 2},
-        {&ModoReparto, 2},      {&OpcionComodines, 3},    {&NumJugadores, 3},
+        {&ModoReparto, 2},      {&OpcionComodines, 3},    {&NumJugadores, 4},
         {&CartaMinimaPoker, 6}, {&VentanaInformacion, 2}, {&TurnoSalida, 2},
         {&ReversoCartas, 8},    {&ObligacionAsistir, 2},  {&TipoBarajaEspanola, 2},
         {&TipoMus, 1},          {&TreintaYUnaReal, 6},    {&JuegosPartidaMus, 3},
@@ -344,7 +345,7 @@ TEST_F(Ficheros, JuegoGrabadoSeLeeColumnaAColumna) {
     EXPECT_EQ(Columnas(l1, 17, 16), QByteArray("\xD1o\xF1o     1001212"));
     EXPECT_EQ(Columnas(l1, 33, 9), QByteArray("\xC1ngel Rui"));
     EXPECT_EQ(Columnas(l1, 49, 9), QByteArray("Maximilia"));
-    EXPECT_EQ(Columnas(l1, 65, 29), QByteArray(" 0021422336228 022-1-11 0631 "));
+    EXPECT_EQ(Columnas(l1, 65, 29), QByteArray(" 0021422346228 022-1-11 0631 "));
     EXPECT_EQ(Columnas(l1, 93, 2), QByteArray(" 0"));
     EXPECT_EQ(Columnas(l1, 104, 12), QByteArray("-1-1002230 0"));
     EXPECT_EQ(Columnas(l1, 127, 21), QByteArray("-1123401234502140    "));
@@ -453,6 +454,14 @@ TEST_F(Ficheros, JuegoEscritoAManoSeCorrigeAlLeer) {
         LeeJuego();
         EXPECT_EQ(caso.valor(), caso.esperado) << caso.columna << " '" << caso.texto.toStdString();
         EXPECT_EQ(ErrorFichero, 0);
+    }
+    for (const char* jugadores : {"3", "4"}) {
+        QString linea1 = Linea1DeFabrica();
+        Coloca(linea1, 67, "02");
+        Coloca(linea1, 74, jugadores);
+        Escribe("TRF5332.INI", FicheroDeJuego(linea1));
+        LeeJuego();
+        EXPECT_EQ(ModalidadPareja, NumJugadores == 4 ? 2 : 1) << jugadores << " players";
     }
     EXPECT_TRUE(MensajesVistos.empty());
 }
