@@ -145,7 +145,6 @@ void AbreJuego() {
     LeeJuego();
     ReversosReducidos(); // the small backs of won tricks follow this game's backs
     ParametrosJuego();
-    ReversosReducidos(); // the small backs of the won tricks in the game's own design
     ColocaMazo();
     ColocaTriunfo();
     PasoSentido = SentidoJuego == 1 ? 1 : -1;
