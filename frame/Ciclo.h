@@ -38,10 +38,12 @@ void PreparaPosponer();
 // Writes both files and ends the program.
 void TerminaPrograma();
 
-// The driver of each game. A game without its own driver yet plays JuegaProvisional: it deals
-// the hands of its deck and waits for Continuar.
+// The driver of each game. A game without its own driver yet is not played: the person is told
+// that it isn't ready (AvisaJuegoNoDisponible). JuegaProvisional deals the hands of its deck and
+// waits for Continuar, for a look at a deck before its game is there.
 void JuegaPartida();
 void JuegaProvisional();
+void AvisaJuegoNoDisponible();
 
 // Headless play: when set, EsperaJugada and the other waits call this instead of blocking on the
 // window's events, so a test can act as the person. It must change the state the wait tests, or

@@ -9,6 +9,7 @@
 #include "games/pumba/PartidaPumba.h"
 #include "games/tutebrisca/Partida.h"
 #include "table/Dibujo.h"
+#include "table/Mensajes.h"
 
 void JuegaPartida() {
     switch (JuegoActual) {
@@ -33,9 +34,23 @@ void JuegaPartida() {
         break;
     // Each game's own driver takes its place here as it comes to the table.
     default:
-        JuegaProvisional();
+        AvisaJuegoNoDisponible();
         break;
     }
+}
+
+// A game whose driver hasn't come to the table yet can be chosen and set, but not played: the
+// person is told so, and the table stays empty.
+void AvisaJuegoNoDisponible() {
+    Mensaje("Juego no disponible",
+            "El juego «" + NombreJuego[JuegoActual] +
+                "» aún no está preparado en esta versión de Trufal y todavía no se puede jugar. "
+                "Puede elegir otro juego con el botón «Normas de juego».",
+            3, 1);
+    PartidaViva = false;
+    ManoViva = false;
+    BorraVentana();
+    RefrescaMesa();
 }
 
 namespace {

@@ -6,6 +6,8 @@
 #include "frame/TrufalGbl.h"
 #include "platform/Ayuda.h"
 #include "platform/Sonido.h"
+#include "settings/Normas.h"
+#include "settings/Personal.h"
 #include "table/Dibujo.h"
 #include "table/Mensajes.h"
 #include "table/Mesa.h"
@@ -243,6 +245,12 @@ void PulsaBoton(int indice) {
     case 1:
         PulsaComenzar();
         break;
+    case BOTON_PERSONALIZAR:
+        PulsaPersonalizar();
+        break;
+    case BOTON_NORMAS:
+        PulsaNormas();
+        break;
     case 4:
         Tutor();
         break;
@@ -253,8 +261,8 @@ void PulsaBoton(int indice) {
         PulsaSalir();
         break;
     default:
-        // The windows of seats, rules, tutor, statistics and scoreboard come with their parts
-        // of the program; until then their buttons tell so.
+        // The windows of statistics and scoreboard come with their parts of the program;
+        // until then their buttons tell so.
         AvisaNoDisponible(indice);
         break;
     }

@@ -170,14 +170,13 @@ void SolicitaRepintado() {
 
 void PonCursor(int forma) {
     CursorActual = forma;
-    if (!LaMesa) return;
+    if (LaMesa) LaMesa->setCursor(CursorDeForma(forma));
+}
+
+QCursor CursorDeForma(int forma) {
     // Below 20 the standard pointers of the desktop; 12 is "no drop".
-    if (forma == CURSOR_PROHIBIDO)
-        LaMesa->setCursor(Qt::ForbiddenCursor);
-    else if (forma == CURSOR_RELOJ)
-        LaMesa->setCursor(Qt::WaitCursor);
-    else if (forma > 20)
-        LaMesa->setCursor(CursorPropio(forma));
-    else
-        LaMesa->setCursor(Qt::ArrowCursor);
+    if (forma == CURSOR_PROHIBIDO) return QCursor(Qt::ForbiddenCursor);
+    if (forma == CURSOR_RELOJ) return QCursor(Qt::WaitCursor);
+    if (forma > 20) return CursorPropio(forma);
+    return QCursor(Qt::ArrowCursor);
 }

@@ -3,6 +3,7 @@
 // and hands the mouse and the keys, mapped back to table pixels, to the table's handlers.
 #pragma once
 
+#include <QCursor>
 #include <QWidget>
 
 class VentanaMesa : public QWidget {
@@ -31,3 +32,5 @@ VentanaMesa* Mesa();
 // Sets the pointer shape: below 20 a standard pointer (12 the "no drop"), above 20 one of the
 // program's own.
 void PonCursor(int forma);
+// The pointer of a shape, as PonCursor gives it; the settings windows use the same ones.
+QCursor CursorDeForma(int forma);
