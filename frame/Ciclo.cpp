@@ -252,6 +252,7 @@ void NuevaMano() {
     if (JuegoActual == JUEGO_PUMBA) PreparaManoPumba();
     DibujaNombres();
     if (TurnoSalida == 2) EligeMano();
+    if (!PartidaViva) return; // the match was left while the leader was being chosen
     ManoViva = true;
 }
 

@@ -24,8 +24,10 @@ void JuegaPartida() {
         break;
     case JUEGO_CHINCHON:
         JuegaChinchon();
+        break;
     case JUEGO_MUS:
         JuegaMus();
+        break;
     case JUEGO_CINQUILLO:
         JuegaCinquillo();
         break;

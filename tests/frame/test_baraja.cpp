@@ -553,6 +553,7 @@ TEST_F(BarajaTest, MusYPokerMezclanLosDescartesAnteriores) {
         SetUp();
         PonJuego(j);
         BarajaMazo();
+        MensajesVistos.clear(); // what opening the game may have said
         // Stock of 2, pile of 10: the last 4 of it were just thrown by seat 1.
         PosicionMazo = CartasBaraja - 1;
         CartasEnMazo = 2;
