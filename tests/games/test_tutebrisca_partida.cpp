@@ -13,6 +13,7 @@
 #include "table/Raton.h"
 #include "table/Sugerencia.h"
 
+#include <QRegularExpression>
 #include <algorithm>
 #include <cstdio>
 #include "support/ManosTuteBrisca.h"
@@ -386,4 +387,35 @@ TEST(TuteBriscaPartida, TheTrumpForThreeOrFourIsTheLastCardDealt) {
             NuevaPartida();
             EXPECT_TRUE(visto) << jugadores << " " << elegido;
         }
+}
+
+// In pairs the end of each hand names the two sides with the points each took, 120 between
+// them in Brisca, and the side with more is told it won, in the second person when it is the
+// person's side (seats 2 and 4).
+TEST(TuteBriscaPartida, PairsHearTheirSidesPointsAndWhoWonTheHand) {
+    Fin fin;
+    MesaDePrueba mesa;
+    PreparaPartida(JUEGO_BRISCA, 4, 2);
+    LimitePartida = 3;
+    NuevaPartida();
+    const QRegularExpression lineas("Jugador1 y Jugador3 : (\\d+) tantos\\.\\s*"
+                                    "Jugador2 y Jugador4 : (\\d+) tantos\\.");
+    int manos = 0, nuestras = 0;
+    for (const auto& m : MensajesVistos) {
+        if (m.Titulo != "Final de la mano") continue;
+        ++manos;
+        const auto hallado = lineas.match(m.Texto);
+        ASSERT_TRUE(hallado.hasMatch()) << m.Texto.toStdString();
+        const int impares = hallado.captured(1).toInt(), pares = hallado.captured(2).toInt();
+        EXPECT_EQ(impares + pares, 120);
+        if (impares > pares) {
+            EXPECT_TRUE(m.Texto.contains("Han ganado la mano Jugador1 y Jugador3"));
+        } else if (pares > impares) {
+            EXPECT_TRUE(m.Texto.contains("Jugador2 y Jugador4, habéis ganado la mano."));
+            ++nuestras;
+        }
+    }
+    EXPECT_GE(manos, 3);
+    EXPECT_GT(nuestras, 0) << "both sentences are seen";
+    EXPECT_LT(nuestras, manos);
 }
