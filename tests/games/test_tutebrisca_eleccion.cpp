@@ -269,3 +269,27 @@ TEST_F(TuteBriscaEleccion, UnaClaveNegativaVaDelanteDeTodas) {
 }
 
 } // namespace
+
+// Above level 90 a seat leading in pairs plays the blank card its partner can ruff and keeps the
+// one an opponent would ruff; at 90 the voids it knows don't move its lead.
+TEST_F(TuteBriscaEleccion, EnParejasSaleAlFalloDelCompaneroYNoAlDelRival) {
+    Partida(JUEGO_TUTE, 4);
+    ModalidadPareja = 2;
+    const std::vector<Carta> mano = {{ESPADAS, 4}, {BASTOS, 4}, {COPAS, 7}};
+    for (int nivel : {91, 90}) {
+        std::vector<Carta> salidas;
+        for (int paloDelCompanero : {ESPADAS, BASTOS}) {
+            std::fill(&SinPalo[0][0], &SinPalo[0][0] + 25, false);
+            SinPalo[3][paloDelCompanero] = true;
+            SinPalo[2][paloDelCompanero == ESPADAS ? BASTOS : ESPADAS] = true;
+            NivelJugador[1] = nivel;
+            salidas.push_back(Elige(1, mano));
+        }
+        if (nivel > 90) {
+            EXPECT_EQ(salidas[0], Carta(ESPADAS, 4));
+            EXPECT_EQ(salidas[1], Carta(BASTOS, 4));
+        } else {
+            EXPECT_EQ(salidas[0], salidas[1]) << "level 90 doesn't weigh the voids";
+        }
+    }
+}
