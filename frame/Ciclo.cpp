@@ -195,6 +195,7 @@ void AbreJuego() {
 
 void NuevaMano() {
     for (;;) {
+        // Paso 1. The hand's number, and a clean table with nothing of the last hand.
         if (NumeroMano < MAX_MANOS) ++NumeroMano;
         PaloTriunfo = ValorTriunfo = CodigoJugada = 0;
         MuestraTriunfo = true;
@@ -214,6 +215,7 @@ void NuevaMano() {
             for (auto& frase : FraseJugador[s]) frase.clear();
             if (JuegoActual != JUEGO_MUS) DibujaBazas(s);
         }
+        // Paso 2. Who plays this hand: in Chinchón and Pumba, only seats under the limit.
         if (JuegoActual == JUEGO_CHINCHON || JuegoActual == JUEGO_PUMBA) {
             JugadoresMano = 0;
             for (int s = 1; s <= 4; ++s) {
@@ -230,11 +232,13 @@ void NuevaMano() {
             PartidaViva = false;
             return;
         }
+        // Paso 3. The lead passes to the next seat that plays.
         if (NumeroMano != 1 && TurnoSalida == 1) {
             int vueltas = 0;
             do SiguienteJugador(JugadorMano);
             while (!JuegaMano[JugadorMano] && ++vueltas < 8);
         }
+        // Paso 4. The deal; a manual deal given up is dealt again.
         AnularReparto = false;
         ReparteCartas();
         if (!PartidaViva) return;
@@ -242,6 +246,7 @@ void NuevaMano() {
         AnularReparto = false; // the manual deal was given up: deal the hand again
         --NumeroMano;
     }
+    // Paso 5. What each game lays on the table before the first turn.
     if (JuegoActual == JUEGO_CHINCHON) EmpiezaPozo();
     if (JuegoActual == JUEGO_MUS) {
         // The stock stays in the middle for the discards; the lances and signs start afresh.
@@ -250,6 +255,7 @@ void NuevaMano() {
     }
     // Pumba turns up the first card on the pile and shows the button to say the word.
     if (JuegoActual == JUEGO_PUMBA) PreparaManoPumba();
+    // Paso 6. The names, the leader the person chooses, and the hand in play.
     DibujaNombres();
     if (TurnoSalida == 2) EligeMano();
     if (!PartidaViva) return; // the match was left while the leader was being chosen
@@ -289,6 +295,7 @@ void BorraTablasMano() {
 }
 
 void SorteoInicial() {
+    // Paso 1. A deck of one card of each value in play of each suit, at random places.
     const int n = CartasNormales / NumBarajas;
     DibujaMazo(MazoBaseX, MazoBaseY, n);
     for (auto& c : Baraja)
@@ -303,6 +310,8 @@ void SorteoInicial() {
             Baraja[posicion][1] = palo;
             Baraja[posicion][2] = valor;
         }
+    // Paso 2. A card face up to each active seat in turn, until the first As (the Jack in the
+    // French deck).
     const int valorSale = TipoBaraja == 1 ? 1 : 11;
     JugadorActual = 4;
     for (int posicion = 1; posicion <= n; ++posicion) {
@@ -322,6 +331,7 @@ void SorteoInicial() {
         if (valor == valorSale) break;
         Pausa(120);
     }
+    // Paso 3. That seat leads, or in Siete y media holds the bank; the table is told.
     const QString nombre = NombreJugador[JugadorActual];
     if (JuegoActual == JUEGO_SIETEYMEDIA) {
         JugadorBanca = JugadorActual;
@@ -516,11 +526,13 @@ void EmpiezaManoApuestas() {
     MazoY = MazoBaseY;
     if (NumeroMano < MAX_MANOS) ++NumeroMano;
     for (;;) {
+        // Paso 1. The table cleared to the chips, and the money each seat starts with.
         Pic_Apostadora.Visible = false;
         BorraVentana();
         for (int s = 1; s <= 4; ++s)
             if (RestoJugador(s) > 0) DibujaPilas(s);
         AnotaDineroInicial();
+        // Paso 2. Who plays: in Póker and Siete y media, only seats with money.
         if (JuegoActual == JUEGO_POKER || JuegoActual == JUEGO_SIETEYMEDIA) {
             JugadoresMano = 0;
             for (int s = 1; s <= 4; ++s) {
@@ -538,6 +550,7 @@ void EmpiezaManoApuestas() {
             for (auto& s : Apuesta)
                 for (auto& e : s)
                     for (auto& f : e) f = 0;
+        // Paso 3. An empty pot starts the stakes afresh; the lead moves on, or is chosen.
         BorraCartasMano();
         if (!(NumeroMano == 1 && TurnoSalida == 1)) {
             if (TurnoSalida == 1) {
@@ -550,6 +563,7 @@ void EmpiezaManoApuestas() {
                 if (!PartidaViva) return;
             }
         }
+        // Paso 4. Each seat with money puts in the entry stake.
         FaseJuego = 2;
         int seat = JugadorMano;
         for (int vuelta = 0; vuelta < 4; ++vuelta) {
@@ -564,6 +578,7 @@ void EmpiezaManoApuestas() {
             SiguienteJugador(seat);
             if (seat == JugadorMano) break;
         }
+        // Paso 5. The deal; a manual deal given up returns the stakes and starts again.
         AnularReparto = false;
         ReparteCartas();
         if (!PartidaViva) return;
@@ -584,6 +599,7 @@ void EmpiezaManoApuestas() {
         RecomponeFichas(0, ApuestaDelante ? 0 : bote);
         AnularReparto = false;
     }
+    // Paso 6. The pot, the stock and the names drawn, and the hand in play.
     DibujaPilas(0);
     DibujaMazo(MazoX, MazoY, CartasEnMazo);
     DibujaNombres();

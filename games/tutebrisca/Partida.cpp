@@ -121,17 +121,20 @@ void EsperaCartaPersona() {
 
 // One seat's turn of the trick. Returns false when the match was left meanwhile.
 bool TurnoDeSeat() {
+    // Paso 1. The seat is shown on turn and draws its chance.
     BombeaEventos();
     ++CartasEnBaza;
     Pausa(400);
     SenalaJugador();
     AzarJugada = Rnd();
     HallaCodigoCambio(JugadorActual);
+    // Paso 2. The exchange of the trump, and the pane's text for the person.
     const bool manual = ControlJugador[JugadorActual] == CONTROL_MANUAL;
     PersonaJugando = manual;
     // A computer seat never lets the exchange go.
     if (!manual && CodigoJugada != 0) CambiaPinta();
     if (manual) MuestraInformacion(TextoDelTurno());
+    // Paso 3. The choice: the computer's, or the person's wait for a card.
     Elige();
     JugadaHecha = false;
     if (manual)
@@ -140,6 +143,7 @@ bool TurnoDeSeat() {
         EsperaJugada();
     if (!PartidaViva) return false;
     if (!JugadaHecha) Elige();
+    // Paso 4. The card goes to the trick.
     PersonaJugando = false;
     JuegaCarta(JugadorActual, CartaElegida);
     CompruebaMesa();
@@ -185,6 +189,7 @@ void CierraBaza() {
 
 // One hand, from the deal to its end. Returns false when the match was left.
 bool JuegaMano() {
+    // Paso 1. The deal and the trump turned up.
     NuevaMano();
     if (!PartidaViva) return false;
     TuteCantado = false;
@@ -192,6 +197,7 @@ bool JuegaMano() {
     DescubreTriunfo();
     if (!PartidaViva) return false;
     CompruebaMesa();
+    // Paso 2. The leader opens the hand's record and the first trick.
     RegistroManos[NumeroMano].Sale = NombreJugador[JugadorMano];
     FaseJuego = 4;
     JugadorSalida = JugadorMano;
@@ -199,19 +205,22 @@ bool JuegaMano() {
     AnteriorJugador(JugadorActual);
     for (int s = 1; s <= 4; ++s)
         if (EstadoJugador[s] == ESTADO_ACTIVADO) DibujaBazas(s);
-    // Four Reyes, or four Caballos, dealt to one seat: the hand is over before a card is played.
+    // Paso 3. Four Reyes, or four Caballos, dealt to one seat: the hand is over before a card
+    // is played.
     if (EsTute()) {
         if (const int seat = HallaTuteRepartido()) {
             GanadorBaza = seat;
             CantaTute(seat);
         }
     }
+    // Paso 4. Trick after trick until the cards or a Tute end the hand.
     while (!TuteCantado) {
         if (!JuegaBaza()) return false;
         CierraBaza();
         if (!PartidaViva) return false;
         if (NumCartas[GanadorBaza][SERIE] == 0) break;
     }
+    // Paso 5. The tally, the message and the record of the hand.
     FinalManoTB();
     return PartidaViva;
 }
