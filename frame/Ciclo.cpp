@@ -238,6 +238,11 @@ void NuevaMano() {
             do SiguienteJugador(JugadorMano);
             while (!JuegaMano[JugadorMano] && ++vueltas < 8);
         }
+        // A first hand whose leader is chosen after the deal has none yet: the deal still
+        // starts at a seat that plays, or a lap of the table would miss the last one.
+        if (JugadorMano < 1 || JugadorMano > 4 || !JuegaMano[JugadorMano] ||
+            EstadoJugador[JugadorMano] != ESTADO_ACTIVADO)
+            SiguienteJugador(JugadorMano);
         // Paso 4. The deal; a manual deal given up is dealt again.
         AnularReparto = false;
         ReparteCartas();

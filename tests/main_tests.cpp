@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <gtest/gtest.h>
 
+#include "frame/Coherencia.h"
 #include "frame/TrufalBas.h"
 #include "table/Mensajes.h"
 
@@ -11,6 +12,8 @@ int main(int argc, char** argv) {
     QApplication app(argc, argv);
     MensajesGuionados = true;
     SemillaFija = 20261123; // every test deals the same cards at every run
+    ComprobarCoherencia =
+        true; // a lost card or chip stops the test where it happened, in every build
     ::testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -89,13 +89,14 @@ std::vector<Fila> Filas() {
         {N, JUEGO_TUTE, T::Selector, 7, {{'J', 81, 1}}},
         {N, JUEGO_TUTE, T::Buleano, 46, {{'J', 79, 2}}},
         {N, JUEGO_TUTE, T::Spin, 74, {{'J', 139, 3}}},
-        {N, JUEGO_MUS, T::Selector, 29, {{'J', 87, 1}}},
+        // A new Mus type or Chinchón deck starts a new match, dealt from the first seat.
+        {N, JUEGO_MUS, T::Selector, 29, {{'J', 87, 1}, {'J', 111, 1}}},
         {N, JUEGO_MUS, T::Selector, 20, {{'J', 90, 1}}},
         {N, JUEGO_MUS, T::Selector, 35, {{'J', 92, 1}}},
         {N, JUEGO_MUS, T::Selector, 30, {{'J', 91, 1}}},
         {N, JUEGO_MUS, T::Spin, 76, {{'J', 142, 2}}},
         {N, JUEGO_MUS, T::Buleano, 50, {{'J', 88, 2}}},
-        {N, JUEGO_CHINCHON, T::Selector, 19, {{'J', 82, 1}}},
+        {N, JUEGO_CHINCHON, T::Selector, 19, {{'J', 82, 1}, {'J', 111, 1}}},
         {N, JUEGO_CHINCHON, T::Buleano, 49, {{'J', 85, 2}}},
         {N, JUEGO_CHINCHON, T::Buleano, 48, {{'J', 83, 2}}},
         // The direction of play is kept twice: the setting and the step it gives.
