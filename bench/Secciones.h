@@ -16,3 +16,6 @@ void BenchChinchon();
 void BenchMus();
 void BenchCinquillo();
 void BenchPumba();
+void BenchBlackJack();
+// The loss rates of the Black Jack seats alone, over that many hands at each level.
+void BenchBlackJackTasas(long long manos);
