@@ -41,6 +41,12 @@ std::vector<LineaFirma> LineasFirma() {
               RestoInicial = 100;
               ApuestaMaxima = 30;
           }}},
+        {{JUEGO_SIETEYMEDIA, 4, false, [] { RestoInicial = 40; }}},
+        {{JUEGO_SIETEYMEDIA, 3, false,
+          [] {
+              RestoInicial = 60;
+              ApuestaMaxima = 30;
+          }}},
         {{JUEGO_CHINCHON, 2, false, [] { LimitePartida = 30; }}},
         {{JUEGO_CHINCHON, 3, false,
           [] {

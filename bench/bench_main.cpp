@@ -28,8 +28,8 @@ int main(int argc, char** argv) {
         BenchPoker();
         std::printf("\n");
         BenchPokerMotor();
-        for (void (*seccion)() :
-             {BenchChinchon, BenchMus, BenchCinquillo, BenchPumba, BenchBlackJack}) {
+        for (void (*seccion)() : {BenchChinchon, BenchMus, BenchCinquillo, BenchPumba,
+                                  BenchBlackJack, BenchSieteYMedia}) {
             std::printf("\n");
             seccion();
         }

@@ -4,6 +4,7 @@
 #include "frame/TrufalGbl.h"
 #include "games/poker/Partida.h"
 #include "games/blackjack/PartidaBlackJack.h"
+#include "games/sieteymedia/PartidaSieteYMedia.h"
 #include "games/chinchon/Partida.h"
 #include "games/mus/Mus.h"
 #include "games/cinquillo/PartidaCinquillo.h"
@@ -19,6 +20,9 @@ void JuegaPartida() {
         break;
     case JUEGO_BLACKJACK:
         JuegaBlackJack();
+        break;
+    case JUEGO_SIETEYMEDIA:
+        JuegaSieteYMedia();
         break;
     case JUEGO_TUTE:
         JuegaTute();

@@ -165,3 +165,22 @@ TEST(Coherencia, BlackJackNoPierdeNiCreaFichasNiCartas) {
         semilla += PARTIDAS;
     }
 }
+
+// The bank moves from seat to seat; the cards covered, shown, changed and split stay once each.
+TEST(Coherencia, SieteYMediaNoPierdeNiCreaFichasNiCartas) {
+    MesaDePrueba mesa;
+    PreparaMesaAutomatica(mesa.Carpeta.path());
+    const MesaAutomatica tipos[] = {
+        {JUEGO_SIETEYMEDIA, 4, false, [] { RestoInicial = 30; }},
+        {JUEGO_SIETEYMEDIA, 3, false,
+         [] {
+             RestoInicial = 40;
+             ApuestaMaxima = 30;
+         }},
+    };
+    unsigned semilla = 1;
+    for (const MesaAutomatica& tipo : tipos) {
+        EXPECT_GT(JuegaConComprobacion(tipo, semilla, PARTIDAS / 3), PARTIDAS / 3);
+        semilla += PARTIDAS;
+    }
+}
