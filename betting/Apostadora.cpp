@@ -63,7 +63,14 @@ void ColocaPanel() {
     const int encima = AltoVentana - ALTO_SUGERENCIA - ALTO_APOSTADORA - 4;
     const int finPilasSeat1 = ZonaAbajo[1] + 10 + 76 + 5;
     const bool libre = Pic_Apostadora.X > 145 || encima > finPilasSeat1;
-    Pic_Apostadora.Y = libre ? encima : AltoVentana - ALTO_APOSTADORA - 2;
+    if (libre) {
+        Pic_Apostadora.Y = encima;
+        return;
+    }
+    // A small table has no room there without covering the left seat's chips: the panel
+    // stands over the person's cards, right of the left seat's cards, where only the stock lies.
+    Pic_Apostadora.X = ZonaDerecha[1] + 6;
+    Pic_Apostadora.Y = std::max(ZonaArriba[4] - ALTO_APOSTADORA - 4, 0);
 }
 
 void PintaFondo(QImage& imagen) {
