@@ -93,7 +93,7 @@ void BenchPokerMotor() {
     std::printf("Póker, evaluación de jugadas y jugador del ordenador:\n");
     Enumeracion();
     PeorDecision();
-    BenchPokerNiveles(100, 200);
+    BenchPokerNiveles(100, 50);
 }
 
 // Matches of two seats of one character, one at level 100 and one at 0; they change places from
