@@ -12,6 +12,8 @@ double ManosPorSegundo(const MesaAutomatica& mesa, int manos);
 void BenchTuteBrisca();
 void BenchPoker();
 void BenchPokerMotor();
+// Level 100 against level 0 in matches of two seats with this money each.
+void BenchPokerNiveles(int partidas, int resto);
 void BenchChinchon();
 void BenchMus();
 void BenchCinquillo();

@@ -17,6 +17,7 @@
 #include "table/Raton.h"
 #include "table/Sugerencia.h"
 
+#include <QFontMetrics>
 #include <QLinearGradient>
 #include <QPainter>
 
@@ -62,7 +63,14 @@ void ColocaPanel() {
     const int encima = AltoVentana - ALTO_SUGERENCIA - ALTO_APOSTADORA - 4;
     const int finPilasSeat1 = ZonaAbajo[1] + 10 + 76 + 5;
     const bool libre = Pic_Apostadora.X > 145 || encima > finPilasSeat1;
-    Pic_Apostadora.Y = libre ? encima : AltoVentana - ALTO_APOSTADORA - 2;
+    if (libre) {
+        Pic_Apostadora.Y = encima;
+        return;
+    }
+    // A small table has no room there without covering the left seat's chips: the panel
+    // stands over the person's cards, right of the left seat's cards, where only the stock lies.
+    Pic_Apostadora.X = ZonaDerecha[1] + 6;
+    Pic_Apostadora.Y = std::max(ZonaArriba[4] - ALTO_APOSTADORA - 4, 0);
 }
 
 void PintaFondo(QImage& imagen) {
@@ -76,23 +84,42 @@ void PintaFondo(QImage& imagen) {
     p.drawRoundedRect(QRectF(1, 1, ANCHO_APOSTADORA - 2, ALTO_APOSTADORA - 2), 6, 6);
 }
 
+// The largest letter, up to the size given, in which a text fits a width: a heading or a caption
+// always shows whole, however the panel is drawn.
+QFont LetraQueCabe(const QString& texto, int ancho, int pixeles) {
+    QFont letra = LetraMesa(pixeles);
+    while (pixeles > 6 && QFontMetrics(letra).horizontalAdvance(texto) > ancho)
+        letra = LetraMesa(--pixeles);
+    return letra;
+}
+
+// A heading centred over a field of figures; it may spread beyond the field, between desde and
+// hasta, but no further.
+void PintaTituloCampo(QPainter& p, int x, int ancho, int desde, int hasta, const QString& texto,
+                      unsigned color) {
+    const int centro = x + ancho / 2;
+    const int hueco = 2 * std::min(centro - desde, hasta - centro) - 4;
+    p.setFont(LetraQueCabe(texto, hueco, ALTO_CABECERA - 1));
+    p.setPen(QColor::fromRgb(color));
+    p.drawText(QRect(centro - hueco / 2, Y_CABECERA, hueco, ALTO_CABECERA + 2), Qt::AlignCenter,
+               texto);
+}
+
 void PintaCabecera(QImage& imagen) {
     EscribeConSombra(imagen, QRect(0, Y_NOMBRE, ANCHO_APOSTADORA, ALTO_NOMBRE), Qt::AlignCenter,
-                     NombreJugador[JugadorActual], LetraMesa(13), QColor::fromRgb(COLOR_NOMBRE),
-                     QColor::fromRgb(COLOR_SOMBRA_NOMBRE));
+                     NombreJugador[JugadorActual],
+                     LetraQueCabe(NombreJugador[JugadorActual], ANCHO_APOSTADORA - 8, 13),
+                     QColor::fromRgb(COLOR_NOMBRE), QColor::fromRgb(COLOR_SOMBRA_NOMBRE));
     QPainter p(&imagen);
-    p.setFont(LetraMesa(10));
     if (EsPoker()) {
-        p.setPen(QColor::fromRgb(COLOR_CABECERA));
-        p.drawText(QRect(X_ACTUAL_POKER, Y_CABECERA, ANCHO_CAMPO_POKER, ALTO_CABECERA),
-                   Qt::AlignCenter, "A c t u a l");
-        p.setPen(QColor::fromRgb(COLOR_ACUMULADO));
-        p.drawText(QRect(X_ACUMULADO_POKER, Y_CABECERA, ANCHO_CAMPO_POKER, ALTO_CABECERA),
-                   Qt::AlignCenter, "Acumulado");
+        constexpr int mitad = ANCHO_APOSTADORA / 2;
+        PintaTituloCampo(p, X_ACTUAL_POKER, ANCHO_CAMPO_POKER, 0, mitad, "A c t u a l",
+                         COLOR_CABECERA);
+        PintaTituloCampo(p, X_ACUMULADO_POKER, ANCHO_CAMPO_POKER, mitad, ANCHO_APOSTADORA,
+                         "Acumulado", COLOR_ACUMULADO);
     } else {
-        p.setPen(QColor::fromRgb(COLOR_CABECERA));
-        p.drawText(QRect(X_ACTUAL, Y_CABECERA, ANCHO_CAMPO, ALTO_CABECERA), Qt::AlignCenter,
-                   "A p u e s t a");
+        PintaTituloCampo(p, X_ACTUAL, ANCHO_CAMPO, 0, ANCHO_APOSTADORA, "A p u e s t a",
+                         COLOR_CABECERA);
     }
 }
 
@@ -127,7 +154,7 @@ QImage CaraBoton(const QString& texto, int ancho, bool pulsado) {
     p.setBrush(g);
     p.setPen(QPen(QColor(0x30, 0x20, 0x08), 1));
     p.drawRoundedRect(QRectF(0.5, 0.5, ancho - 1, ALTO_BOTON_APOSTADORA - 1), 5, 5);
-    p.setFont(LetraMesa(11));
+    p.setFont(LetraQueCabe(texto, ancho - 8, 11));
     const int baja = pulsado ? 1 : 0;
     p.setPen(QColor(0x20, 0x14, 0x04));
     p.drawText(QRect(baja, baja, ancho, ALTO_BOTON_APOSTADORA), Qt::AlignCenter, texto);
@@ -195,11 +222,13 @@ void PulsaApostar() {
     TerminaTurno();
 }
 
-// "Igualar a": the difference at once, without pauses; all the seat's money ends the turn.
+// "Igualar a": the difference at once, without pauses; all the seat's money ends the turn. A
+// call that a limit refuses places no chip at all.
 void PulsaIgualar() {
     const int seat = JugadorActual;
     const int diferencia =
         std::min(ApuestaMaxRonda - Apuesta[seat][1][FaseJuego], RestoJugador(seat));
+    if (diferencia < 1 || !AdmiteApuesta(seat, diferencia)) return;
     DesglosaFichas(diferencia);
     int desglose[7];
     std::copy(std::begin(DesgloseFichas), std::end(DesgloseFichas), desglose);

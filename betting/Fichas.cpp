@@ -204,6 +204,11 @@ bool PonFicha(int seat, int d) {
     return true;
 }
 
+bool AdmiteApuesta(int seat, int cantidad) {
+    if (seat < 1 || seat > 4 || RestoJugador(seat) < cantidad) return false;
+    return !LimiteSobrepasado(seat, cantidad);
+}
+
 void ApuestaConFichas(int seat, int cantidad) {
     if (cantidad < 1) return;
     DesglosaFichas(cantidad);

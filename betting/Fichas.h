@@ -26,6 +26,9 @@ void DesglosaFichas(int cantidad);
 // order and places it, or shows the message of the first limit passed and changes nothing.
 // Returns whether the chip was placed.
 bool PonFicha(int seat, int d);
+// Whether a stake of this amount passes every limit of PonFicha taken whole: a call is tested so
+// before its first chip, and a refusal shows the message of the first limit passed.
+bool AdmiteApuesta(int seat, int cantidad);
 // Places amount chip by chip from the largest, pausing between chips; stops at a refusal.
 void ApuestaConFichas(int seat, int cantidad);
 // Takes back every chip of the seat's history of SerieActual, the last first.

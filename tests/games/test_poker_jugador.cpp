@@ -147,4 +147,31 @@ TEST(DecideApuesta, PosicionesResueltasAMano) {
     }
 }
 
+// The opening law reads the card a joker pairs with, never the joker's own number: a joker with
+// a nine is a pair of nines, and two jokers with loose cards pair the highest of them.
+TEST(PuedeAbrirRonda, LeyConComodines) {
+    MesaDePrueba mesa;
+    const struct {
+        const char* Mano;
+        int Ley; // 8 "Mínimo pareja de 9" ... 10 "Mínimo pareja de J", 13 "de A"
+        bool Abre;
+    } casos[] = {
+        {"J1 9O 7C 4E 2B", 10, false}, {"J1 9O 7C 4E 2B", 8, true},  {"J1 J2 9O 7C 2E", 10, false},
+        {"J1 J2 9O 7C 2E", 8, true},   {"J1 KO 7C 4E 2B", 10, true}, {"J1 KO 7C 4E 2B", 13, false},
+        {"J1 AO 7C 4E 2B", 13, true},  {"J1 9O 9C 4E 2B", 13, true}, {"QO QC 5E 4B 2O", 11, true},
+        {"QO QC 5E 4B 2O", 12, false}, {"KO QC 9E 5B 3O", 1, false},
+    };
+    for (const auto& c : casos) {
+        Asiento a[5];
+        a[4] = {c.Mano};
+        a[1] = {"2E 2B 3C 3E 4O"};
+        PonMesa(FASE_POKER_APUESTA1, a, 0.5, 3);
+        LeyApertura = c.Ley;
+        EXPECT_EQ(PuedeAbrirRonda(), c.Abre) << c.Mano << " ley " << c.Ley;
+        // The law bars only the first stake of the first round.
+        ApuestaMaxRonda = 5;
+        EXPECT_TRUE(PuedeAbrirRonda()) << c.Mano;
+    }
+}
+
 } // namespace

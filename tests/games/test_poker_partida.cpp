@@ -1,6 +1,7 @@
 // Whole matches of Póker at a table without a window: the money never changes hands but through
 // the pot, the match ends with one seat holding all of it, and the showdown shares the pot as a
 // table worked out by hand says.
+#include "betting/Apostadora.h"
 #include "betting/Fichas.h"
 #include "bench/Automatica.h"
 #include "frame/Coherencia.h"
@@ -15,10 +16,9 @@
 #include "table/Mensajes.h"
 
 #include <cstdio>
+#include <cstring>
 
 #include <gtest/gtest.h>
-
-namespace {} // namespace
 
 namespace {
 
@@ -126,6 +126,7 @@ TEST(PokerPartida, TheShowdownSharesThePotAsWorkedOutByHand) {
         ReiniciaEstado();
         JuegoActual = JUEGO_POKER;
         ParametrosJuego();
+        std::memset(Apuesta, 0, sizeof Apuesta);
         PartidaViva = true;
         NumeroMano = 1;
         JugadorMano = 1;
@@ -147,5 +148,58 @@ TEST(PokerPartida, TheShowdownSharesThePotAsWorkedOutByHand) {
         EXPECT_EQ(ValorBote(), 0);
         PersonaGuionada = nullptr;
         PartidaViva = false;
+    }
+}
+
+// The panel's call button, pressed by the person: the difference is staked at once; a call that
+// would pass the hand's limit shows the refusal and leaves no chip on the table; all the seat's
+// money ends the turn.
+TEST(PokerPartida, TheCallButtonStakesTheDifferenceOrNothing) {
+    MesaDePrueba mesa;
+    const struct {
+        int entrada, resto, subida; // seat 4's entry and money; seat 2 raised to this in round 1
+        const char* rotulo;
+        int apostado;
+        bool termina;
+        const char* mensaje;
+    } casos[] = {
+        {5, 100, 10, "Igualar a 10", 10, false, ""},
+        // An entry of 20 kept from a hand dealt again: 20 + 7 passes 25; the 5 chip alone wouldn't.
+        {20, 100, 7, "Igualar a 7", 0, false, "Límite sobrepasado"},
+        {5, 8, 10, "Voy con mi resto", 8, true, ""},
+    };
+    for (const auto& c : casos) {
+        ReiniciaEstado();
+        JuegoActual = JUEGO_POKER;
+        ParametrosJuego();
+        std::memset(Apuesta, 0, sizeof Apuesta);
+        ApuestaMaxima = 25;
+        LeyApertura = 14;
+        FaseJuego = FASE_POKER_APUESTA1;
+        SerieActual = 1;
+        JugadorActual = 4;
+        PonMano(2, "KO KC 2E 5B 8O");
+        PonMano(4, "QO QC 3E 6B 9O");
+        Apuesta[2][1][FASE_POKER_ENTRADA] = 5;
+        Apuesta[2][1][FASE_POKER_APUESTA1] = ApuestaMaxRonda = c.subida;
+        Apuesta[4][1][FASE_POKER_ENTRADA] = c.entrada;
+        RecomponeFichas(2, 100);
+        RecomponeFichas(4, c.resto);
+        RecomponeFichas(0, 5 + c.subida + c.entrada);
+        ApuestaPersona = 0;
+        JugadaHecha = false;
+        EsperandoPersona = true;
+        MensajesVistos.clear();
+        DibujaApostadora();
+        ASSERT_EQ(NombreBotonApostadora[AP_IGUALAR], c.rotulo);
+        const BotonApostadora& b = BotonesApostadora[AP_IGUALAR];
+        PulsaApostadora(b.X + 5, b.Y + 5);
+        EXPECT_EQ(Apuesta[4][1][FASE_POKER_APUESTA1], c.apostado) << c.rotulo;
+        EXPECT_EQ(RestoJugador(4), c.resto - c.apostado) << c.rotulo;
+        EXPECT_EQ(ValorBote(), 5 + c.subida + c.entrada + c.apostado) << c.rotulo;
+        EXPECT_EQ(JugadaHecha, c.termina) << c.rotulo;
+        EXPECT_EQ(MensajesVistos.empty() ? QString() : MensajesVistos[0].Titulo, QString(c.mensaje))
+            << c.rotulo;
+        EsperandoPersona = false;
     }
 }
