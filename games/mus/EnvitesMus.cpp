@@ -54,7 +54,7 @@ bool DeclaraLance() {
         const bool tiene = LanceMus[LanceActual].Tiene[seat];
         TieneLanceTurno = tiene;
         if (manual) MuestraInformacion(AzarJugada < 0.3 ? 17 : 61);
-        if (!SenasVisibles[seat]) SenalaJugador();
+        SenalaTurno(seat);
         Pausa(200);
         PulsoSi = PulsoNo = false;
         if (DetallarPasos) {
@@ -121,7 +121,7 @@ bool TurnoDeEnvite(int seat, int orden) {
         HablaPorDos = false;
     } else {
         // Paso 6. The seat answers aloud.
-        if (!SenasVisibles[seat]) SenalaJugador();
+        SenalaTurno(seat);
         if (manual) {
             MuestraInformacion(TextoEnvite());
             DibujaApostadoraMus();

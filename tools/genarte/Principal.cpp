@@ -117,6 +117,7 @@ int main(int argc, char** argv) {
         Guarda(HojaBotones(escala), "Botones" + Sufijo(escala) + ".png");
         Guarda(HojaContr(escala), "Contr" + Sufijo(escala) + ".png");
         Guarda(HojaNumeros(escala), "NumerosCristal" + Sufijo(escala) + ".png");
+        Guarda(HojaSenas(escala), "Senas" + Sufijo(escala) + ".png");
     }
     Guarda(IconoPrograma(256), "trufal.png");
     // Pointers are written at their own size only: the windowing system scales them.
