@@ -5,6 +5,7 @@
 #include "frame/TrufalBas.h"
 #include "frame/TrufalGbl.h"
 #include "games/mus/MesaMus.h"
+#include "games/mus/JugadorMus.h"
 #include "games/mus/Mus.h"
 #include "table/Dibujo.h"
 #include "table/Sugerencia.h"
@@ -237,6 +238,7 @@ bool JuegaLances() {
     JugadorActual = JugadorMano;
     PreparaSenas();
     GestosSenas();
+    DibujaCaras();
     // The stock and the discards leave the table; their cards stay where they are.
     DibujaMazo(MazoX, MazoY, 0);
     DibujaMazo(PozoX, PozoY, 0);

@@ -51,6 +51,8 @@ int CaracterRivales(int seat);
 void LimpiaSenas();
 // The face of the seat for a gaze (61 to 64) or a gesture (1 to 14), drawn where its cards lie.
 void DibujaSena(int seat, int codigo);
+// Every face shown, with its gaze: over cards just dealt, which it hides.
+void DibujaCaras();
 
 // The envite of the seat in the lance in play (ApuestaOrdenador, HablaPorDosOrdenador,
 // MandaEnvidar), with Pensado already filled.

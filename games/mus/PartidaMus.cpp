@@ -95,6 +95,7 @@ int RondaDeMus() {
     JugadorActual = JugadorMano;
     PreparaSenas();
     GestosSenas();
+    DibujaCaras();
     for (int vuelta = 0; vuelta < 4; ++vuelta) {
         if (vuelta > 0) SiguienteJugador(JugadorActual);
         const int seat = JugadorActual;
@@ -200,6 +201,7 @@ bool DescartaSeat(int seat, int fila) {
     if (n > 0) RobaCartas(seat, n, 0);
     for (int p = 1; p <= 4; ++p) mano[p][CAMPO_ESTADO] = 2;
     DibujaJugador(seat);
+    if (SenasVisibles[seat]) DibujaSena(seat, SENA_MIRADA + SenasJugador[seat].Mirada);
     CompruebaMesa();
     Pic_Sugerencia.Visible = false;
     Pausa(1200);

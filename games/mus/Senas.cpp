@@ -315,6 +315,10 @@ void GestosSenas() {
     }
 }
 
+void DibujaCaras() {
+    for (int s = 1; s <= 3; ++s) DibujaSena(s, SENA_MIRADA + SenasJugador[s].Mirada);
+}
+
 void DibujaSena(int seat, int codigo) {
     if (seat < 1 || seat > 3 || !SenasVisibles[seat] || Pic_Mesa.Imagen.isNull()) return;
     if (HojaSenas().isNull()) return;
