@@ -293,3 +293,20 @@ TEST_F(TuteBriscaEleccion, EnParejasSaleAlFalloDelCompaneroYNoAlDelRival) {
         }
     }
 }
+
+// Bound to follow in Tute for four, a seat holding the two top trumps and one low card runs its
+// masters only above level 85; at 85 and below it leads the low card and keeps them.
+TEST_F(TuteBriscaEleccion, SoloPorEncimaDeOchentaYCincoSeCorrenLasMaestras) {
+    Partida(JUEGO_TUTE, 4);
+    ObligacionActiva = true;
+    CaracterJugador[1] = 3;
+    const std::vector<Carta> mano = {{OROS, 1}, {OROS, 3}, {COPAS, 4}};
+    for (int nivel : {80, 85, 86, 100}) {
+        NivelJugador[1] = nivel;
+        const Carta salida = Elige(1, mano);
+        if (nivel > 85)
+            EXPECT_EQ(salida.first, OROS) << nivel;
+        else
+            EXPECT_EQ(salida, Carta(COPAS, 4)) << nivel;
+    }
+}

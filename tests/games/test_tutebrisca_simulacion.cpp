@@ -2,6 +2,7 @@
 // lines exist, who ends on top of each, and what the search advises the seat on turn.
 #include "frame/Ordenar.h"
 #include "frame/TrufalGbl.h"
+#include "games/tutebrisca/Eleccion.h"
 #include "games/tutebrisca/Reglas.h"
 #include "games/tutebrisca/Simulacion.h"
 #include "support/MesaDePrueba.h"
@@ -262,3 +263,51 @@ TEST_F(TuteBriscaSimulacion, SinObligacionSeRecorrenTodasLasLineas) {
 }
 
 } // namespace
+
+// Brisca with cards still to draw: the leader takes the search's advice only when it costs at
+// most two points more than the card its own rules chose, and never over a card worth nothing.
+TEST_F(TuteBriscaSimulacion, LaBriscaNoTiraPuntosPorElConsejoDeUnaBaza) {
+    Juega(JUEGO_BRISCA, 2);
+    CartasPorJugador = 3;
+    struct Caso {
+        std::vector<Carta> uno, dos;
+        int propia, consejo, jugada;
+    };
+    const Caso casos[] = {
+        // The Caballo for the Sota: one point more, taken.
+        {{{COPAS, SOTA}, {ESPADAS, CABALLO}, {BASTOS, REY}},
+         {{COPAS, CABALLO}, {ESPADAS, 4}, {BASTOS, 5}},
+         1,
+         2,
+         2},
+        // The Tres for the Sota: eight points more, refused.
+        {{{COPAS, SOTA}, {ESPADAS, TRES}, {COPAS, TRES}},
+         {{COPAS, 4}, {COPAS, REY}, {ESPADAS, 5}},
+         1,
+         3,
+         1},
+        // The Sota for a blank 4: refused, however small the cost.
+        {{{COPAS, SOTA}, {BASTOS, 4}, {ESPADAS, SOTA}},
+         {{COPAS, 4}, {ESPADAS, 5}, {BASTOS, AS}},
+         2,
+         1,
+         2},
+    };
+    for (const auto& c : casos) {
+        const int fila = static_cast<int>(&c - casos);
+        DaMano(1, c.uno);
+        DaMano(2, c.dos);
+        CartasEnMazo = 10;
+        CartasEnBaza = 1;
+        JugadorActual = 1;
+        SimulacionValida = false;
+        EligeCartaBrisca();
+        EXPECT_EQ(CartaElegida, c.propia) << fila;
+        SimulaFinal();
+        SimulacionValida = true;
+        ConsultaSimulacion();
+        EXPECT_EQ(CartaSimulada, c.consejo) << fila;
+        EligeCartaBrisca();
+        EXPECT_EQ(CartaElegida, c.jugada) << fila;
+    }
+}
