@@ -116,8 +116,9 @@ bool TurnoDeEnvite(int seat, int orden) {
     CompaneroEnLance = CompaneroSigue(seat);
     PiensaMus(seat);
     // Paso 5. A computer seat that may not raise, and is not going for an órdago, says nothing
-    // and stands by its partner's envite.
-    if (!manual && !PuedeSubir && ApuestaOrdenador != ORDAGO) {
+    // and stands by its partner's envite. A rival's órdago is answered aloud: silence there
+    // would take it.
+    if (!manual && !PuedeSubir && ApuestaMaxRonda != ORDAGO && ApuestaOrdenador != ORDAGO) {
         ApuestaAnunciada = ApuestaMaxRonda;
         HablaPorDos = false;
     } else {

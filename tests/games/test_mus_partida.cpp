@@ -333,6 +333,9 @@ TEST(MusPartida, EachWayOfClosingALanceIsPaidAsItSays) {
         {{"Envido", "Acepto", "Acepto"}, ESTADO_ACEPTADO, -2, -2, true},
         // An órdago refused: one stone.
         {{"Órdago", "Paso", "Paso"}, ESTADO_ORDAGO_NO, 1, 0, true},
+        // A rival's órdago is answered aloud by the computer, not taken in silence: early in a
+        // game a conservador refuses it, and so does seat 1.
+        {{"Paso", "Órdago", "Paso"}, ESTADO_ORDAGO_NO, 0, 1, false},
         // An órdago taken: no stone moves, the best Grandes wins the game.
         {{"Órdago", "Acepto"}, ESTADO_ORDAGO, 0, 0, true},
         // Nobody bets: one stone at the end to the best Grandes.
@@ -344,7 +347,8 @@ TEST(MusPartida, EachWayOfClosingALanceIsPaidAsItSays) {
             PreparaMus(mesa.Carpeta.path(), {1, 2, 3, 4});
         else
             PreparaMus(mesa.Carpeta.path(), {1, 2, 4});
-        TurnoSalida = 2; // the test chooses the mano
+        TurnoSalida = 2;        // the test chooses the mano
+        CaracterJugador[3] = 1; // no órdago of its own
         std::deque<const char*> guion(c.respuestas.begin(), c.respuestas.end());
         bool visto = false;
         QString caso = c.respuestas.front();
