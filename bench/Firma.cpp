@@ -35,6 +35,18 @@ std::vector<LineaFirma> LineasFirma() {
               OpcionComodines = 3;
               LimiteDescartes = 3;
           }}},
+        {{JUEGO_BLACKJACK, 4, false, [] { RestoInicial = 60; }}},
+        {{JUEGO_BLACKJACK, 3, false,
+          [] {
+              RestoInicial = 100;
+              ApuestaMaxima = 30;
+          }}},
+        {{JUEGO_SIETEYMEDIA, 4, false, [] { RestoInicial = 40; }}},
+        {{JUEGO_SIETEYMEDIA, 3, false,
+          [] {
+              RestoInicial = 60;
+              ApuestaMaxima = 30;
+          }}},
         {{JUEGO_CHINCHON, 2, false, [] { LimitePartida = 30; }}},
         {{JUEGO_CHINCHON, 3, false,
           [] {

@@ -16,3 +16,7 @@ void BenchChinchon();
 void BenchMus();
 void BenchCinquillo();
 void BenchPumba();
+void BenchBlackJack();
+void BenchSieteYMedia();
+// The loss rates of the Black Jack seats alone, over that many hands at each level.
+void BenchBlackJackTasas(long long manos);

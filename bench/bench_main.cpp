@@ -2,6 +2,7 @@
 // a second, and the costly routines of each game.
 //   trufal_bench              every figure
 //   trufal_bench --firmas     only the signatures, in the form of bench/firmas.txt
+//   trufal_bench --tasas      only the Black Jack loss rates, over fewer hands
 #include <QApplication>
 #include <QTemporaryDir>
 #include <cstdio>
@@ -17,13 +18,18 @@ int main(int argc, char** argv) {
     QTemporaryDir carpeta;
     PreparaMesaAutomatica(carpeta.path());
     const bool soloFirmas = argc > 1 && std::strcmp(argv[1], "--firmas") == 0;
+    if (argc > 1 && std::strcmp(argv[1], "--tasas") == 0) {
+        BenchBlackJackTasas(30000);
+        return 0;
+    }
     if (!soloFirmas) {
         BenchTuteBrisca();
         std::printf("\n");
         BenchPoker();
         std::printf("\n");
         BenchPokerMotor();
-        for (void (*seccion)() : {BenchChinchon, BenchMus, BenchCinquillo, BenchPumba}) {
+        for (void (*seccion)() : {BenchChinchon, BenchMus, BenchCinquillo, BenchPumba,
+                                  BenchBlackJack, BenchSieteYMedia}) {
             std::printf("\n");
             seccion();
         }

@@ -494,6 +494,10 @@ void TerminaPrograma() {
 
 namespace {
 
+bool ContraBanca() {
+    return JuegoActual == JUEGO_BLACKJACK || JuegoActual == JUEGO_SIETEYMEDIA;
+}
+
 void AnotaDineroInicial() {
     for (int s = 1; s <= 4; ++s) {
         RestoAlEmpezar[s] = RestoJugador(s);
@@ -555,9 +559,25 @@ void EmpiezaManoApuestas() {
             for (auto& s : Apuesta)
                 for (auto& e : s)
                     for (auto& f : e) f = 0;
+        // Against a bank every stake was settled at the last payment: nothing stays in front.
+        if (ContraBanca())
+            for (int s = 0; s <= 4; ++s)
+                for (int e = 0; e <= 4; ++e) {
+                    for (int& f : HistorialFichas[s][e]) f = 0;
+                    NumHistorial[s][e] = 0;
+                }
         // Paso 3. An empty pot starts the stakes afresh; the lead moves on, or is chosen.
         BorraCartasMano();
-        if (!(NumeroMano == 1 && TurnoSalida == 1)) {
+        if (JuegoActual == JUEGO_SIETEYMEDIA && TurnoSalida == 1) {
+            // The bank passes to the seat that sang siete y media, or that took it from a
+            // broke banker; the first seat with money after the bank leads.
+            if (CambiaBanca && NuevaBanca != 0) JugadorBanca = NuevaBanca;
+            JugadorMano = JugadorBanca;
+            for (int vuelta = 0; vuelta < 4; ++vuelta) {
+                SiguienteJugador(JugadorMano);
+                if (RestoJugador(JugadorMano) > 0) break;
+            }
+        } else if (!(NumeroMano == 1 && TurnoSalida == 1)) {
             if (TurnoSalida == 1) {
                 for (int vuelta = 0; vuelta < 4; ++vuelta) {
                     SiguienteJugador(JugadorMano);
@@ -568,10 +588,10 @@ void EmpiezaManoApuestas() {
                 if (!PartidaViva) return;
             }
         }
-        // Paso 4. Each seat with money puts in the entry stake.
+        // Paso 4. Each seat with money puts in the entry stake, in Póker only.
         FaseJuego = 2;
         int seat = JugadorMano;
-        for (int vuelta = 0; vuelta < 4; ++vuelta) {
+        for (int vuelta = 0; vuelta < 4 && !ContraBanca(); ++vuelta) {
             const int resto = RestoJugador(seat);
             int entrada = std::min(ApuestaMinima, resto);
             // A pot dealt again keeps its entry stakes: a new one goes in only as far as the
@@ -585,6 +605,8 @@ void EmpiezaManoApuestas() {
         }
         // Paso 5. The deal; a manual deal given up returns the stakes and starts again.
         AnularReparto = false;
+        // The Black Jack deals after the stakes, in its own driver.
+        if (JuegoActual == JUEGO_BLACKJACK) break;
         ReparteCartas();
         if (!PartidaViva) return;
         if (!AnularReparto) break;

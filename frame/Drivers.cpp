@@ -3,6 +3,8 @@
 
 #include "frame/TrufalGbl.h"
 #include "games/poker/Partida.h"
+#include "games/blackjack/PartidaBlackJack.h"
+#include "games/sieteymedia/PartidaSieteYMedia.h"
 #include "games/chinchon/Partida.h"
 #include "games/mus/Mus.h"
 #include "games/cinquillo/PartidaCinquillo.h"
@@ -15,6 +17,12 @@ void JuegaPartida() {
     switch (JuegoActual) {
     case JUEGO_POKER:
         JuegaPoker();
+        break;
+    case JUEGO_BLACKJACK:
+        JuegaBlackJack();
+        break;
+    case JUEGO_SIETEYMEDIA:
+        JuegaSieteYMedia();
         break;
     case JUEGO_TUTE:
         JuegaTute();

@@ -33,6 +33,7 @@ inline bool ApuestaDelante = false;
 inline int Baraja[MAX_BARAJA + 1][3] = {};
 inline int PosicionMazo = 1;
 inline int CartasEnMazo = 0;
+inline int VecesBarajado = 0; // shuffles since the start: a new one empties the Black Jack tray
 inline int Pozo[55][3] = {};
 inline int CartasEnPozo = 0;
 inline int PaloTriunfo = 0, ValorTriunfo = 0;

@@ -24,6 +24,10 @@ inline int JugadorActual = 0;
 inline int JugadorMano = 0;
 inline int JugadorSalida = 0;
 inline int JugadorBanca = 0;
+// Siete y media: the first seat that showed siete y media in the hand (0 none), and whether it
+// takes the bank at the next hand.
+inline int NuevaBanca = 0;
+inline bool CambiaBanca = false;
 inline int GanadorBaza = 0, GanadorMano = 0, GanadorPartida = 0;
 inline int CartasEnBaza = 0;
 inline int TantosBaza = 0;

@@ -145,11 +145,25 @@ void BarajaMazo() {
     if (!EsBlackJack()) DibujaMazo(MazoX, MazoY, CartasEnMazo);
     std::memset(Baraja, 0, sizeof Baraja);
     Randomiza();
+    ++VecesBarajado;
+    // A Black Jack shoe shuffled in the middle of a hand leaves out the cards the seats hold:
+    // no card is ever twice on the table.
+    int enMano[5][14] = {};
+    if (EsBlackJack())
+        for (const auto& s : CartasJugador)
+            for (const auto& e : s)
+                for (const auto& c : e)
+                    if (c[CAMPO_PALO] >= 1 && c[CAMPO_PALO] <= 4 && c[CAMPO_VALOR] >= 1 &&
+                        c[CAMPO_VALOR] <= 13) {
+                        ++enMano[c[CAMPO_PALO]][c[CAMPO_VALOR]];
+                        --CartasEnMazo;
+                    }
     // Each card takes a random empty place: rejection is the whole method, with no swaps.
     for (int palo = 1; palo <= 4; ++palo)
         for (int valor = 1; valor <= CartasPorPalo; ++valor) {
             if (!ValorEnJuego[valor]) continue;
-            for (int b = 0; b < NumBarajas; ++b) ColocaAlAzar(palo, valor, 0, CartasBaraja);
+            for (int b = enMano[palo][valor]; b < NumBarajas; ++b)
+                ColocaAlAzar(palo, valor, 0, CartasEnMazo);
         }
     for (int n = 1; n <= NumComodines; ++n) ColocaAlAzar(PALO_COMODIN, 90 + n, 0, CartasBaraja);
 }

@@ -106,7 +106,10 @@ void DecidePulsadores(int seat, bool quiere[103]) {
     if (!manual || seat != JugadorActual) return;
     if (PorSeries()) {
         const bool ultima = SerieActual == NumSeries;
-        const bool banca = seat == JugadorBanca && JugadoresMano >= 2;
+        // A Black Jack bank plays by its rule; a person who holds the Siete y media bank asks
+        // for its cards like any seat.
+        const bool banca =
+            JuegoActual == JUEGO_BLACKJACK && seat == JugadorBanca && JugadoresMano >= 2;
         if (FaseJuego == 4 && ultima && !SerieCerrada[seat][SerieActual] && !banca) {
             quiere[PULSADOR_CARTA] = quiere[PULSADOR_SERVIDO] = true;
             const auto& primera = CartasJugador[seat][SerieActual][1];

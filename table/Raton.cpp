@@ -3,6 +3,8 @@
 // press handler acts by the shape in force.
 #include "table/Raton.h"
 
+#include "betting/Banca.h"
+
 #include "betting/Apostadora.h"
 #include "betting/Fichas.h"
 #include "frame/Baraja.h"
@@ -183,6 +185,21 @@ void EligeCartaPersona() {
     RefrescaMesa();
 }
 
+// Siete y media: the person turns the covered card of the series face up; a siete y media shown
+// ends the turn, to be sung.
+void VuelveTapada() {
+    Sonido(SONIDO_ASINCRONO, SONIDO_CARTA_LLEGA);
+    auto& serie = CartasJugador[JugadorActual][SerieActual];
+    for (int p = 1; p <= NumCartas[JugadorActual][SerieActual]; ++p)
+        if (serie[p][CAMPO_MARCA] == 1) {
+            serie[p][CAMPO_MARCA] = 0;
+            serie[p][CAMPO_CARA] = CARA_VISIBLE;
+        }
+    DibujaJugador(JugadorActual);
+    RefrescaMesa();
+    if (ValorMano(JugadorActual, SerieActual) == 7.5) EsperandoPersona = false;
+}
+
 int FormaSobreCartas(int x, int y) {
     int forma = 0;
     const bool turnoPersona = PersonaJugando && ControlJugador[JugadorActual] == CONTROL_MANUAL &&
@@ -193,10 +210,13 @@ int FormaSobreCartas(int x, int y) {
             const auto& c = CartasJugador[JugadorActual][SerieActual][CartaBajoPuntero];
             if (JuegoActual == JUEGO_BLACKJACK || JuegoActual == JUEGO_SIETEYMEDIA) {
                 if (!FichasActivas) {
-                    if (JuegoActual == JUEGO_SIETEYMEDIA && c[CAMPO_MARCA] == 1)
-                        forma = 42;
+                    if (JuegoActual == JUEGO_SIETEYMEDIA && PuedeCambiarCuatro &&
+                        CartaBajoPuntero == 1)
+                        forma = CURSOR_CAMBIAR;
+                    else if (JuegoActual == JUEGO_SIETEYMEDIA && c[CAMPO_MARCA] == 1)
+                        forma = CURSOR_VOLTEAR;
                     else if (PuedeAbrir)
-                        forma = 43;
+                        forma = CURSOR_ABRIRSE;
                 }
             } else if (!FichasActivas && FaseDeElegirCarta()) {
                 forma = JugadaPermitida() ? 22 : 23;
@@ -362,6 +382,19 @@ void RatonPulsado(int x, int y, int boton, bool control) {
     }
     if (CursorActual == CURSOR_CAMBIAR &&
         (JuegoActual == JUEGO_TUTE || JuegoActual == JUEGO_BRISCA)) {
+        PideCambio = true;
+        EsperandoPersona = false;
+        return;
+    }
+    const bool contraBanca = JuegoActual == JUEGO_BLACKJACK || JuegoActual == JUEGO_SIETEYMEDIA;
+    if (CursorActual == CURSOR_ABRIRSE && PersonaJugando && contraBanca) {
+        PideAbrir = true;
+        EsperandoPersona = false;
+        return;
+    }
+    if (CursorActual == CURSOR_VOLTEAR && PersonaJugando && JuegoActual == JUEGO_SIETEYMEDIA)
+        return VuelveTapada();
+    if (CursorActual == CURSOR_CAMBIAR && PersonaJugando && JuegoActual == JUEGO_SIETEYMEDIA) {
         PideCambio = true;
         EsperandoPersona = false;
         return;

@@ -145,3 +145,42 @@ TEST(Coherencia, PokerNoPierdeNiCreaFichas) {
         semilla += PARTIDAS;
     }
 }
+
+// The shoe runs on from hand to hand and is shuffled in the middle of hands: no card is ever
+// twice on the table, and the chips only move between seats and the bank.
+TEST(Coherencia, BlackJackNoPierdeNiCreaFichasNiCartas) {
+    MesaDePrueba mesa;
+    PreparaMesaAutomatica(mesa.Carpeta.path());
+    const MesaAutomatica tipos[] = {
+        {JUEGO_BLACKJACK, 4, false, [] { RestoInicial = 30; }},
+        {JUEGO_BLACKJACK, 3, false,
+         [] {
+             RestoInicial = 40;
+             ApuestaMaxima = 30;
+         }},
+    };
+    unsigned semilla = 1;
+    for (const MesaAutomatica& tipo : tipos) {
+        EXPECT_GT(JuegaConComprobacion(tipo, semilla, PARTIDAS / 3), PARTIDAS / 3);
+        semilla += PARTIDAS;
+    }
+}
+
+// The bank moves from seat to seat; the cards covered, shown, changed and split stay once each.
+TEST(Coherencia, SieteYMediaNoPierdeNiCreaFichasNiCartas) {
+    MesaDePrueba mesa;
+    PreparaMesaAutomatica(mesa.Carpeta.path());
+    const MesaAutomatica tipos[] = {
+        {JUEGO_SIETEYMEDIA, 4, false, [] { RestoInicial = 30; }},
+        {JUEGO_SIETEYMEDIA, 3, false,
+         [] {
+             RestoInicial = 40;
+             ApuestaMaxima = 30;
+         }},
+    };
+    unsigned semilla = 1;
+    for (const MesaAutomatica& tipo : tipos) {
+        EXPECT_GT(JuegaConComprobacion(tipo, semilla, PARTIDAS / 3), PARTIDAS / 3);
+        semilla += PARTIDAS;
+    }
+}

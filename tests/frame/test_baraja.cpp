@@ -526,7 +526,8 @@ TEST_F(BarajaTest, RepartoDeLasBancas) {
     EXPECT_EQ(CartasEnMazo, 207);
     EXPECT_EQ(PosicionMazo, 106);
 
-    // A shoe that runs out in the middle of the deal is shuffled whole, and the deal goes on.
+    // A shoe that runs out in the middle of the deal is shuffled again without the cards the
+    // seats hold, and the deal goes on: no card is ever twice on the table.
     std::memset(CartasJugador, 0, sizeof CartasJugador);
     std::memset(NumCartas, 0, sizeof NumCartas);
     PosicionMazo = 311;
@@ -538,8 +539,11 @@ TEST_F(BarajaTest, RepartoDeLasBancas) {
     EXPECT_EQ(CartaMano(2, 1), CartaBaraja(1));
     EXPECT_EQ(CartaMano(4, 2), CartaBaraja(3));
     EXPECT_EQ(PosicionMazo, 4);
-    EXPECT_EQ(CartasEnMazo, 309);
-    EXPECT_EQ(TramoBaraja(1, 312), CartasEnJuego());
+    EXPECT_EQ(CartasEnMazo, 307);
+    auto todas = TramoBaraja(1, 310);
+    todas.insert(penultima);
+    todas.insert(ultima);
+    EXPECT_EQ(todas, CartasEnJuego());
 }
 
 // ---------------------------------------------------------------------------------------------
@@ -596,14 +600,14 @@ TEST_F(BarajaTest, OtrosJuegosRobanLoQueQueda) {
     EXPECT_EQ(CartasEnPozo, 10);
     EXPECT_EQ(CartaMano(2, 3), Carta(0, 0));
 
-    // The Black Jack shoe is shuffled anew.
+    // The Black Jack shoe is shuffled anew, without the cards the seats hold.
     PonJuego({JUEGO_BLACKJACK});
     BarajaMazo();
     PosicionMazo = 312;
     CartasEnMazo = 1;
     RobaCartas(1, 2, 0);
     EXPECT_TRUE(MensajesVistos.empty());
-    EXPECT_EQ(CartasEnMazo, 310);
+    EXPECT_EQ(CartasEnMazo, 308);
     EXPECT_EQ(PosicionMazo, 3);
     EXPECT_EQ(CartaMano(1, 2), CartaBaraja(2));
 }

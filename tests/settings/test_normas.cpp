@@ -252,12 +252,15 @@ TEST(Normas, KeysWalkAndStepTheOptionsAndThePointerShowsWhereAPressActs) {
 }
 
 TEST(Normas, AGameWithoutItsDriverSaysItIsNotReadyInsteadOfDealing) {
-    // Siete y media has no driver yet; when it comes, another such game takes its place here.
+    // Every game has its driver now: the notice is given as a match would meet it, started on
+    // a game the table can't play yet.
     MesaDePrueba mesa;
     JuegoActual = JUEGO_SIETEYMEDIA;
     TurnoSalida = 2;
     PartidaSinPersona();
-    NuevaPartida();
+    PartidaViva = ManoViva = true;
+    NumeroMano = 0;
+    AvisaJuegoNoDisponible();
     ASSERT_FALSE(MensajesVistos.empty());
     EXPECT_EQ(MensajesVistos.back().Titulo, "Juego no disponible");
     EXPECT_TRUE(MensajesVistos.back().Texto.contains("Siete y media"));
