@@ -1,10 +1,14 @@
 // Figures of the Mus: automatic hands per second, and the shares of the hands of the deck that
 // hold each class of pares, juego, la 31 and punto, by both ways of counting the 3 and the 2.
+#include <algorithm>
+#include <chrono>
 #include <cstdio>
 
 #include "bench/Secciones.h"
 #include "frame/Baraja.h"
+#include "frame/TrufalBas.h"
 #include "frame/TrufalGbl.h"
+#include "games/mus/JugadorMus.h"
 #include "games/mus/Mus.h"
 #include "platform/CajaImagen.h"
 
@@ -46,6 +50,87 @@ void FrecuenciasMus(int tipo) {
                 juego * 100 / manos, la31 * 100 / manos, punto * 100 / manos);
 }
 
+// The computer player's decisions on random deals: every phase, every lance, and the signs of
+// the four seats; the mean and the worst time of one call.
+void TiemposDecision() {
+    PreparaPartidaAutomatica({JUEGO_MUS, 4, true, [] { TipoMus = 1; }});
+    ParametrosJuego();
+    SemillaFija = 4242;
+    SiembraPartida();
+    double peor = 0, suma = 0;
+    int llamadas = 0;
+    auto mide = [&](int seat) {
+        const auto inicio = std::chrono::steady_clock::now();
+        PiensaMus(seat);
+        const double s =
+            std::chrono::duration<double>(std::chrono::steady_clock::now() - inicio).count();
+        peor = std::max(peor, s);
+        suma += s;
+        ++llamadas;
+    };
+    for (int reparto = 0; reparto < 2000; ++reparto) {
+        // Four hands from a shuffled deck.
+        int cartas[40][2], n = 0;
+        for (int palo = 1; palo <= 4; ++palo)
+            for (int valor : {1, 2, 3, 4, 5, 6, 7, 10, 11, 12})
+                cartas[n][0] = palo, cartas[n++][1] = valor;
+        for (int i = 39; i > 0; --i) std::swap(cartas[i], cartas[int(Rnd() * (i + 1))]);
+        for (int s = 1; s <= 4; ++s) {
+            NumCartas[s][1] = 4;
+            for (int p = 1; p <= 4; ++p) {
+                CartasJugador[s][1][p][CAMPO_PALO] = cartas[(s - 1) * 4 + p - 1][0];
+                CartasJugador[s][1][p][CAMPO_VALOR] = cartas[(s - 1) * 4 + p - 1][1];
+            }
+        }
+        for (auto& lance : LanceMus) lance = LanceDeMus{};
+        JugadorMano = JugadorActual = reparto % 4 + 1;
+        AzarFrase = Rnd();
+        FaseJuego = FASE_MUS_MUS;
+        for (int s = 1; s <= 4; ++s) mide(s);
+        FaseJuego = FASE_MUS_DESCARTE;
+        for (int s = 1; s <= 4; ++s) mide(s);
+        FaseJuego = FASE_MUS_ENVITE;
+        for (int s = 1; s <= 4; ++s) EvaluaManoMus(s);
+        for (LanceActual = LANCE_GRANDE; LanceActual <= LANCE_PUNTO; ++LanceActual) {
+            ApuestaMaxRonda = reparto % 3 == 0 ? 0 : reparto % 3 == 1 ? 2 : ORDAGO;
+            ApuestaPersona = ApuestaMaxRonda == 0 ? 2 : ApuestaMaxRonda;
+            JugadorMaxApuesta = ApuestaMaxRonda == 0 ? 0 : JugadorMano;
+            TurnosDesdeSubida = 2;
+            for (int s = 1; s <= 4; ++s) mide(s);
+        }
+        const auto inicio = std::chrono::steady_clock::now();
+        PreparaSenas();
+        GestosSenas();
+        peor = std::max(
+            peor, std::chrono::duration<double>(std::chrono::steady_clock::now() - inicio).count());
+    }
+    SemillaFija = 0;
+    std::printf("  %d decisiones: media %.1f us, la peor %.1f us (con las señas de los cuatro)\n",
+                llamadas, suma / llamadas * 1e6, peor * 1e6);
+}
+
+// Whole games of one match, the pair at level 100 against the pair at level 0 (both sides).
+void NivelContraNivel(int partidas) {
+    int ganadas = 0, jugadas = 0;
+    for (int lado = 1; lado <= 2; ++lado)
+        for (int k = 1; k <= partidas / 2; ++k) {
+            PreparaPartidaAutomatica({JUEGO_MUS, 4, true, [lado] {
+                                          TipoMus = 1;
+                                          JuegosPartidaMus = 1;
+                                          PiedrasJuego = 30;
+                                          for (int s = 1; s <= 4; ++s) {
+                                              NivelJugador[s] = ParejaDe[s] == lado ? 100 : 0;
+                                              CaracterJugador[s] = 2;
+                                          }
+                                      }});
+            JuegaPartidaAutomatica(50000u + 1000u * lado + k);
+            ganadas += JuegosGanados[lado] > 0;
+            ++jugadas;
+        }
+    std::printf("  pareja de nivel 100 contra pareja de nivel 0: %d de %d juegos (%.1f %%)\n",
+                ganadas, jugadas, 100.0 * ganadas / jugadas);
+}
+
 } // namespace
 
 void BenchMus() {
@@ -57,4 +142,7 @@ void BenchMus() {
     for (int tipo = 1; tipo <= 2; ++tipo)
         std::printf("  %s: %8.1f\n", tipo == 1 ? "Mus a 4 Reyes" : "Mus a 8 Reyes",
                     ManosPorSegundo({JUEGO_MUS, 4, true, [tipo] { TipoMus = tipo; }}, 300));
+    std::printf("Mus, el jugador del ordenador:\n");
+    TiemposDecision();
+    NivelContraNivel(400);
 }

@@ -58,6 +58,9 @@ void DibujaCartas(int seat) {
                      ZonaAbajo[seat] - ZonaArriba[seat] + 1);
     if (SenasEnLaZona(seat)) {
         // The face with the signs lies there; the cards show only while a manual deal runs.
+        // The strip of its phrase is wiped all the same, as the phrase is written afresh.
+        const QRect franja = FranjaFrase(seat);
+        BorraZona(franja.x(), franja.y(), franja.width(), franja.height());
         if (AnularReparto) PintaCartasSeat(Pic_Mesa.Imagen, seat);
         return;
     }

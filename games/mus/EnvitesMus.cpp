@@ -5,6 +5,7 @@
 #include "frame/TrufalBas.h"
 #include "frame/TrufalGbl.h"
 #include "games/mus/MesaMus.h"
+#include "games/mus/JugadorMus.h"
 #include "games/mus/Mus.h"
 #include "table/Dibujo.h"
 #include "table/Sugerencia.h"
@@ -54,7 +55,7 @@ bool DeclaraLance() {
         const bool tiene = LanceMus[LanceActual].Tiene[seat];
         TieneLanceTurno = tiene;
         if (manual) MuestraInformacion(AzarJugada < 0.3 ? 17 : 61);
-        if (!SenasVisibles[seat]) SenalaJugador();
+        SenalaTurno(seat);
         Pausa(200);
         PulsoSi = PulsoNo = false;
         if (DetallarPasos) {
@@ -115,13 +116,14 @@ bool TurnoDeEnvite(int seat, int orden) {
     CompaneroEnLance = CompaneroSigue(seat);
     PiensaMus(seat);
     // Paso 5. A computer seat that may not raise, and is not going for an órdago, says nothing
-    // and stands by its partner's envite.
-    if (!manual && !PuedeSubir && ApuestaOrdenador != ORDAGO) {
+    // and stands by its partner's envite. A rival's órdago is answered aloud: silence there
+    // would take it.
+    if (!manual && !PuedeSubir && ApuestaMaxRonda != ORDAGO && ApuestaOrdenador != ORDAGO) {
         ApuestaAnunciada = ApuestaMaxRonda;
         HablaPorDos = false;
     } else {
         // Paso 6. The seat answers aloud.
-        if (!SenasVisibles[seat]) SenalaJugador();
+        SenalaTurno(seat);
         if (manual) {
             MuestraInformacion(TextoEnvite());
             DibujaApostadoraMus();
@@ -237,6 +239,7 @@ bool JuegaLances() {
     JugadorActual = JugadorMano;
     PreparaSenas();
     GestosSenas();
+    DibujaCaras();
     // The stock and the discards leave the table; their cards stay where they are.
     DibujaMazo(MazoX, MazoY, 0);
     DibujaMazo(PozoX, PozoY, 0);

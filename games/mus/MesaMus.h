@@ -9,6 +9,8 @@ bool EsManual(int seat);
 // The seat says the phrase: written beside its cards, and spoken; an empty text clears it.
 void DiceMus(int seat, const QString& frase);
 void CallanTodos();
+// The seat on turn flashes, unless it shows its face: then only its buttons are drawn.
+void SenalaTurno(int seat);
 // One turn of waiting: the person acts, or the computer seats look at each other; then the
 // computer player runs again for the seat on turn.
 void EsperaTurno();

@@ -6,7 +6,12 @@
 #include "frame/TrufalBas.h"
 #include "frame/TrufalGbl.h"
 #include "games/mus/MesaMus.h"
+#include "games/mus/JugadorMus.h"
 #include "games/mus/Mus.h"
+#include "table/Botonera.h"
+#include "table/GblMesa.h"
+
+#include <QTimer>
 #include "platform/Bomba.h"
 #include "table/Dibujo.h"
 #include "table/Pulsadores.h"
@@ -85,10 +90,12 @@ QString FraseCorte(double r) {
 int RondaDeMus() {
     FaseJuego = FASE_MUS_MUS;
     for (bool& orden : OrdenCortar) orden = false;
+    LimpiaSenas(); // what was seen before a discard does not survive it
     AzarJugada = Rnd();
     JugadorActual = JugadorMano;
     PreparaSenas();
     GestosSenas();
+    DibujaCaras();
     for (int vuelta = 0; vuelta < 4; ++vuelta) {
         if (vuelta > 0) SiguienteJugador(JugadorActual);
         const int seat = JugadorActual;
@@ -96,7 +103,7 @@ int RondaDeMus() {
         AzarFrase = Rnd();
         if (manual) MuestraInformacion(TextoRondaMus());
         PulsoMus = PulsoCorte = false;
-        if (!SenasVisibles[seat]) SenalaJugador();
+        SenalaTurno(seat);
         Pausa(300);
         EsperaTurno();
         if (!PartidaViva) return -1;
@@ -168,7 +175,7 @@ int TiraDescartes(int seat) {
 bool DescartaSeat(int seat, int fila) {
     const bool manual = EsManual(seat);
     AzarFrase = Rnd();
-    if (!SenasVisibles[seat]) SenalaJugador();
+    SenalaTurno(seat);
     PiensaMus(seat);
     if (manual) MuestraInformacion(TextoDescarte());
     PersonaJugando = manual;
@@ -194,6 +201,7 @@ bool DescartaSeat(int seat, int fila) {
     if (n > 0) RobaCartas(seat, n, 0);
     for (int p = 1; p <= 4; ++p) mano[p][CAMPO_ESTADO] = 2;
     DibujaJugador(seat);
+    if (SenasVisibles[seat]) DibujaSena(seat, SENA_MIRADA + SenasJugador[seat].Mirada);
     CompruebaMesa();
     Pic_Sugerencia.Visible = false;
     Pausa(1200);
@@ -247,6 +255,33 @@ bool JuegoYaGanado() {
     return false;
 }
 
+// The wait of the person's turn: while it thinks, the computer seats go on looking at each other
+// and signalling, once every 1 - VelocidadJuego / 100 seconds.
+void EsperaConSenas() {
+    OrdenManual = JugadaHecha = HablaPorDos = false;
+    DibujaContinuar(false);
+    EsperandoPersona = true;
+    bool toca = false;
+    QTimer reloj;
+    QObject::connect(&reloj, &QTimer::timeout, [&toca] { toca = true; });
+    reloj.start(std::max(50, Redondea(1000 * (1 - VelocidadJuego / 100.0))));
+    while (EsperandoPersona) {
+        SolicitaRepintado();
+        if (PersonaGuionada)
+            PersonaGuionada();
+        else
+            EsperaEventos();
+        if (!PartidaViva) return;
+        if (toca && EsperandoPersona) {
+            toca = false;
+            PreparaSenas();
+            GestosSenas();
+        }
+    }
+    OcultaContinuar();
+    PersonaJugando = false;
+}
+
 } // namespace
 
 bool EsManual(int seat) {
@@ -260,6 +295,13 @@ void DiceMus(int seat, const QString& frase) {
     RefrescaMesa();
 }
 
+void SenalaTurno(int seat) {
+    if (!SenasVisibles[seat])
+        SenalaJugador();
+    else
+        DibujaJugador(seat);
+}
+
 void CallanTodos() {
     for (int s = 1; s <= 4; ++s)
         if (!FraseJugador[s][SERIE].isEmpty()) DiceMus(s, QString());
@@ -271,7 +313,7 @@ void EsperaTurno() {
         PreparaSenas();
         GestosSenas();
     } else {
-        EsperaJugada();
+        EsperaConSenas();
     }
     if (!PartidaViva) return;
     PiensaMus(JugadorActual);
@@ -295,7 +337,9 @@ void PreparaPartidaMus() {
         PiedrasCompletas[s] = false;
         OrdenCortar[s] = OrdenEnvidar[s] = false;
         PlanMus[s] = 0;
+        SenasVisibles[s] = false;
     }
+    LimpiaSenas();
     ColocaMonton();
     DibujaMonton();
 }
@@ -310,6 +354,7 @@ void PreparaManoMus() {
     OrdagoEnJuego = false;
     RondaDeclaracion = false;
     for (int s = 1; s <= 4; ++s) OrdenCortar[s] = OrdenEnvidar[s] = false;
+    LimpiaSenas();
     DibujaMonton();
     for (int s = 1; s <= 4; ++s) DibujaPiedrasSeat(s);
 }

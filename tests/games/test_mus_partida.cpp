@@ -240,8 +240,8 @@ struct JugadorAlAzar {
 
 } // namespace
 
-// Computer seats, which pass every lance: each hand pays its lances en paso, a game ends exactly
-// at the stones of a game, and the match when a pair has the games of its vacas.
+// Computer seats: each hand pays its lances as they closed, a game ends exactly at the stones of
+// a game, and the match when a pair has the games of its vacas.
 TEST(MusPartida, AutomaticHandsPayTheirLancesAndGamesEndAtTheirStones) {
     Fin fin;
     for (const auto& [piedras, juegos, tipo] : {std::tuple{30, 2, 2}, {20, 1, 1}, {40, 2, 1}}) {
@@ -264,8 +264,8 @@ TEST(MusPartida, AutomaticHandsPayTheirLancesAndGamesEndAtTheirStones) {
         EXPECT_EQ(Vistos("Final de Partida"), 1);
         EXPECT_EQ(Vistos("Final de la mano"), cuenta.Manos);
         EXPECT_GT(cuenta.Manos, 3);
-        // With the computer passing everything, every lance played closes en paso.
-        EXPECT_EQ(cuenta.Envites, 0);
+        // The computer seats open, raise and refuse: the stones above still add up.
+        EXPECT_GT(cuenta.Envites, 0);
     }
 }
 
@@ -310,36 +310,45 @@ TEST(MusPartida, EnvitesAndOrdagosPayWhatTheirLancesSay) {
 }
 
 // The Grandes of a first hand, played to a script by seats 1, 2 and 4, with the mano at seat 1
-// and seat 3 the computer's (which passes, or stands by its partner's envite in silence). Each
-// row is what the seats answer in turn; "+3 Envido" raises the figure three times first.
+// and seat 3 the computer's, which stands by its partner's envite in silence; in the rows where
+// seat 3 has a free say the script plays it too. Each row is what the seats answer in turn; "+3
+// Envido" raises the figure three times first.
 TEST(MusPartida, EachWayOfClosingALanceIsPaidAsItSays) {
     Fin fin;
     const struct {
         std::vector<const char*> respuestas; // in the order the seats speak
         int estado, cobra1, cobra2;          // the lance's result and the stones of each pair
-        bool acepta3; // seat 3 stood by its partner, or was taken in by its órdago
+        bool acepta3;         // seat 3 stood by its partner, or was taken in by its órdago
+        bool manual3 = false; // seat 3 answers to the script too, where it has a free say
     } casos[] = {
         // Refused by both rivals, seat 3 in between: one stone at once to pair 1.
         {{"Envido", "Paso", "Paso"}, ESTADO_NO_QUERIDO, 1, 0, true},
         // One rival takes it and the other doesn't: the pair does not take it.
         {{"Envido", "Paso", "Acepto"}, ESTADO_NO_QUERIDO, 1, 0, true},
         // A raise to 5, which seat 4 may only follow, refused: the 2 it raised go to pair 2.
-        {{"Envido", "+3 Envido", "Acepto", "Paso"}, ESTADO_REENVITE_NO, 0, 2, false},
+        {{"Envido", "+3 Envido", "Paso", "Acepto", "Paso"}, ESTADO_REENVITE_NO, 0, 2, false, true},
         // Taken for both by seat 2: seat 4 has no say, and the envite goes to the best hand.
         {{"Envido", "Aceptamos"}, ESTADO_ACEPTADO, -2, -2, true},
         // Taken by each rival.
         {{"Envido", "Acepto", "Acepto"}, ESTADO_ACEPTADO, -2, -2, true},
         // An órdago refused: one stone.
         {{"Órdago", "Paso", "Paso"}, ESTADO_ORDAGO_NO, 1, 0, true},
+        // A rival's órdago is answered aloud by the computer, not taken in silence: early in a
+        // game a conservador refuses it, and so does seat 1.
+        {{"Paso", "Órdago", "Paso"}, ESTADO_ORDAGO_NO, 0, 1, false},
         // An órdago taken: no stone moves, the best Grandes wins the game.
         {{"Órdago", "Acepto"}, ESTADO_ORDAGO, 0, 0, true},
         // Nobody bets: one stone at the end to the best Grandes.
-        {{"Paso", "Paso", "Paso"}, ESTADO_EN_PASO, -1, -1, false},
+        {{"Paso", "Paso", "Paso", "Paso"}, ESTADO_EN_PASO, -1, -1, false, true},
     };
     for (const auto& c : casos) {
         MesaDePrueba mesa;
-        PreparaMus(mesa.Carpeta.path(), {1, 2, 4});
-        TurnoSalida = 2; // the test chooses the mano
+        if (c.manual3)
+            PreparaMus(mesa.Carpeta.path(), {1, 2, 3, 4});
+        else
+            PreparaMus(mesa.Carpeta.path(), {1, 2, 4});
+        TurnoSalida = 2;        // the test chooses the mano
+        CaracterJugador[3] = 1; // no órdago of its own
         std::deque<const char*> guion(c.respuestas.begin(), c.respuestas.end());
         bool visto = false;
         QString caso = c.respuestas.front();

@@ -83,6 +83,7 @@ QImage HojaBotones(double escala);
 QImage IconoPrograma(int lado); // the program's icon for the desktop, transparent around
 QImage HojaContr(double escala);
 QImage HojaNumeros(double escala);
+QImage HojaSenas(double escala); // the faces of the Mus (Senas.cpp)
 struct Cursor {
     int Numero;
     QImage Imagen;

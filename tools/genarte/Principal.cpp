@@ -29,7 +29,8 @@ void Guarda(const QImage& imagen, const QString& nombre) {
         w.setQuality(0); // for PNG this asks for the strongest compression
     }
     // Sheets without transparency are written opaque: the program only blits them.
-    const bool transparente = nombre.startsWith("cursores/") || nombre == "trufal.png";
+    const bool transparente =
+        nombre.startsWith("cursores/") || nombre == "trufal.png" || nombre.startsWith("Senas");
     const QImage salida =
         imagen.convertToFormat(transparente ? QImage::Format_ARGB32 : QImage::Format_RGB32);
     if (!w.write(salida)) {
@@ -117,6 +118,7 @@ int main(int argc, char** argv) {
         Guarda(HojaBotones(escala), "Botones" + Sufijo(escala) + ".png");
         Guarda(HojaContr(escala), "Contr" + Sufijo(escala) + ".png");
         Guarda(HojaNumeros(escala), "NumerosCristal" + Sufijo(escala) + ".png");
+        Guarda(HojaSenas(escala), "Senas" + Sufijo(escala) + ".png");
     }
     Guarda(IconoPrograma(256), "trufal.png");
     // Pointers are written at their own size only: the windowing system scales them.
