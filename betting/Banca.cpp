@@ -137,3 +137,19 @@ QString TextoTotal(int seat, int serie) {
     if (total != Ent(total)) texto += " y media";
     return texto;
 }
+
+void AnotaRegistroBanca(QString (*textoSerie)(int seat, int serie)) {
+    constexpr int ANCHO_COLUMNA_REGISTRO = 7;
+    static constexpr int Columna[5] = {0, 1, 8, 1, 8};
+    RegistroMano& r = RegistroManos[NumeroMano];
+    for (int s = 1; s <= 4; ++s) {
+        r.Resultado[s] = r.Detalle[s] = QString(15, ' ');
+        if (NumCartas[s][1] == 0) continue;
+        for (int e = 1; e <= SeriesJugador[s] && e <= 4; ++e)
+            PonColumna(e <= 2 ? r.Resultado[s] : r.Detalle[s], Columna[e], ANCHO_COLUMNA_REGISTRO,
+                       textoSerie(s, e));
+        r.Extra[s] = SeriesJugador[s];
+    }
+    r.Banca = RestoJugador(JugadorBanca) - RestoAlEmpezar[JugadorBanca];
+    r.Gana[JugadorBanca][1] = r.Banca > 0 ? 1 : 0;
+}

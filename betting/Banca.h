@@ -47,3 +47,7 @@ void RotuloSerie(int seat, int serie);
 bool TieneTapada(int seat, int serie);
 // The total of a series as the end of a hand tells it: "Se ha pasado", or the game's words.
 QString TextoTotal(int seat, int serie);
+
+// The record of a hand against a bank: each seat's series, the first two in Resultado and the
+// others in Detalle, as the game's own text of a series gives them, and what the bank won.
+void AnotaRegistroBanca(QString (*textoSerie)(int seat, int serie));

@@ -22,7 +22,6 @@ namespace {
 constexpr int BLACK_JACK = 21;
 constexpr int PLANTA_BANCA = 17; // the bank draws below this, and stands on a soft 17
 constexpr int P_BLACK_JACK = 22; // a Black Jack beats any other 21 at the payment
-constexpr int ANCHO_COLUMNA_REGISTRO = 7;
 
 // ---- The tray: cards of the hands already played from this shoe ----
 int Bandeja[MAX_BARAJA + 1][3] = {};
@@ -384,21 +383,6 @@ QString TextoRegistro(int seat, int serie) {
     return QString::number(Ent(total));
 }
 
-void AnotaRegistro() {
-    RegistroMano& r = RegistroManos[NumeroMano];
-    static constexpr int Columna[5] = {0, 1, 8, 1, 8};
-    for (int s = 1; s <= 4; ++s) {
-        r.Resultado[s] = r.Detalle[s] = QString(15, ' ');
-        if (NumCartas[s][1] == 0) continue;
-        for (int e = 1; e <= SeriesJugador[s] && e <= 4; ++e)
-            PonColumna(e <= 2 ? r.Resultado[s] : r.Detalle[s], Columna[e], ANCHO_COLUMNA_REGISTRO,
-                       TextoRegistro(s, e));
-        r.Extra[s] = SeriesJugador[s];
-    }
-    r.Banca = RestoJugador(Banca()) - RestoAlEmpezar[Banca()];
-    r.Gana[Banca()][1] = r.Banca > 0 ? 1 : 0;
-}
-
 // One hand. Returns false when the match was left.
 bool JuegaManoBlackJack() {
     // Paso 1. The cards of the last hand go to the tray; the bank is seat 2.
@@ -445,7 +429,7 @@ bool JuegaManoBlackJack() {
     MuestraResultado();
     if (!PartidaViva) return false;
     Paga();
-    AnotaRegistro();
+    AnotaRegistroBanca(TextoRegistro);
     CompruebaMesa();
     return PartidaViva;
 }

@@ -22,7 +22,6 @@
 namespace {
 
 constexpr double SIETE_Y_MEDIA = 7.5;
-constexpr int ANCHO_COLUMNA_REGISTRO = 7;
 constexpr int TAPADA = 1;
 
 bool CantaSiete[5][5] = {};
@@ -368,21 +367,6 @@ QString TextoRegistro(int seat, int serie) {
     return texto;
 }
 
-void AnotaRegistro() {
-    RegistroMano& r = RegistroManos[NumeroMano];
-    static constexpr int Columna[5] = {0, 1, 8, 1, 8};
-    for (int s = 1; s <= 4; ++s) {
-        r.Resultado[s] = r.Detalle[s] = QString(15, ' ');
-        if (NumCartas[s][1] == 0) continue;
-        for (int e = 1; e <= SeriesJugador[s] && e <= 4; ++e)
-            PonColumna(e <= 2 ? r.Resultado[s] : r.Detalle[s], Columna[e], ANCHO_COLUMNA_REGISTRO,
-                       TextoRegistro(s, e));
-        r.Extra[s] = SeriesJugador[s];
-    }
-    r.Banca = RestoJugador(Banca()) - RestoAlEmpezar[Banca()];
-    r.Gana[Banca()][1] = r.Banca > 0 ? 1 : 0;
-}
-
 bool JuegaManoSieteYMedia() {
     // Pasos 1 y 2. The bank, the leader and one covered card for each seat with money.
     for (auto& s : CantaSiete)
@@ -412,7 +396,7 @@ bool JuegaManoSieteYMedia() {
     if (!PartidaViva) return false;
     Paga();
     CambioDeBanca();
-    AnotaRegistro();
+    AnotaRegistroBanca(TextoRegistro);
     CompruebaMesa();
     return PartidaViva;
 }
