@@ -3,6 +3,7 @@
 //   trufal_bench              every figure
 //   trufal_bench --firmas     only the signatures, in the form of bench/firmas.txt
 //   trufal_bench --tasas      only the Black Jack loss rates, over fewer hands
+//   trufal_bench --mus        only the figures of the Mus
 //   trufal_bench --niveles [partidas] [resto]   only the Póker's level 100 against level 0
 #include <QApplication>
 #include <QTemporaryDir>
@@ -21,6 +22,10 @@ int main(int argc, char** argv) {
     PreparaMesaAutomatica(carpeta.path());
     if (argc > 1 && std::strcmp(argv[1], "--niveles") == 0) {
         BenchPokerNiveles(argc > 2 ? std::atoi(argv[2]) : 100, argc > 3 ? std::atoi(argv[3]) : 200);
+        return 0;
+    }
+    if (argc > 1 && std::strcmp(argv[1], "--mus") == 0) {
+        BenchMus();
         return 0;
     }
     const bool soloFirmas = argc > 1 && std::strcmp(argv[1], "--firmas") == 0;

@@ -18,6 +18,7 @@
 namespace {
 
 constexpr int ANCHO_PANEL = 157, ALTO_PANEL = 141;
+constexpr int MARGEN_FILA = 8; // the rows of answers run this far from the panel's sides
 constexpr int REPITE_PRIMERA = 450, REPITE_SIGUIENTES = 150; // a held "+" or "-"
 
 // The buttons of the panel; the items keep the numbers of the board's captions.
@@ -47,7 +48,7 @@ void PintaBoton(QPainter& p, const BotonVisible& b) {
     p.drawRoundedRect(QRectF(b.Caja).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
     // A pair of answers shares a row, so each takes a smaller letter to fit its half.
     const int letra = b.Boton == BOTON_MAS || b.Boton == BOTON_MENOS ? 16
-                      : b.Caja.width() < 100                         ? 9
+                      : b.Caja.width() < 100                         ? 10
                                                                      : 11;
     p.setFont(LetraMesa(letra));
     p.setPen(QColor(255, 255, 255));
@@ -59,7 +60,8 @@ void PintaBoton(QPainter& p, const BotonVisible& b) {
 // The answers the lance allows, one row each; a pair of items shares its row at half width.
 void ColocaBotones() {
     Botones.clear();
-    const int x = (ANCHO_PANEL - 109) / 2, ancho = 109, medio = 53;
+    // A pair of answers shares a row: each half must hold "Envidamos" or "Aceptamos" whole.
+    const int ancho = ANCHO_PANEL - 2 * MARGEN_FILA, x = MARGEN_FILA, medio = (ancho - 3) / 2;
     if (PuedeSubir) {
         Botones.push_back({BOTON_MENOS, QRect(10, 38, 30, 24), "-"});
         Botones.push_back({BOTON_MAS, QRect(ANCHO_PANEL - 40, 38, 30, 24), "+"});
@@ -125,18 +127,42 @@ bool Paso(int signo) {
     return true;
 }
 
-// A held "+" or "-" repeats, first after a while and then quicker, until it is let go.
-void RepiteMientrasPulsado(int signo) {
+// Notes the release of the mouse while a "+" or "-" is held: the release is seen as the event
+// goes by, whichever window takes it.
+class EsperaSuelta : public QObject {
+  public:
+    bool Suelto = false;
+    bool eventFilter(QObject*, QEvent* e) override {
+        if (e->type() == QEvent::MouseButtonRelease) Suelto = true;
+        return false;
+    }
+};
+
+// One step of "+" or "-", and while it is held more, first after a while and then quicker, until
+// it is let go.
+void PasoYRepite(int signo) {
+    // A press that no mouse holds (one made for the person by the program) steps once.
+    if (!QGuiApplication::instance() || !(QGuiApplication::mouseButtons() & Qt::LeftButton)) {
+        Paso(signo);
+        return;
+    }
+    // Listening from before the first step, so that no release goes unseen.
+    EsperaSuelta suelta;
+    QGuiApplication::instance()->installEventFilter(&suelta);
+    bool sigue = Paso(signo);
     qint64 siguiente = Ahora() + REPITE_PRIMERA;
-    while (QGuiApplication::mouseButtons() & Qt::LeftButton) {
+    while (sigue) {
         BombeaEventos();
+        const bool apretado = QGuiApplication::mouseButtons() & Qt::LeftButton;
+        if (suelta.Suelto || !apretado || !PartidaViva) break;
         if (Ahora() < siguiente) {
             DuermeHasta(Ahora() + 10);
             continue;
         }
-        if (!Paso(signo)) return;
+        sigue = Paso(signo);
         siguiente = Ahora() + REPITE_SIGUIENTES;
     }
+    QGuiApplication::instance()->removeEventFilter(&suelta);
 }
 
 void Responde(int apuesta, bool porDos) {
@@ -154,8 +180,7 @@ void PulsaPanel(int x, int y) {
         switch (b.Boton) {
         case BOTON_MAS:
         case BOTON_MENOS: {
-            const int signo = b.Boton == BOTON_MAS ? 1 : -1;
-            if (Paso(signo)) RepiteMientrasPulsado(signo);
+            PasoYRepite(b.Boton == BOTON_MAS ? 1 : -1);
             return;
         }
         case ITEM_ENVIDO:

@@ -44,7 +44,9 @@ void MuestraTextoPago() {
     p.drawRect(CajaPagoVista.adjusted(0, 0, -1, -1));
     p.setFont(LetraMesa(12));
     p.setPen(QColor(0, 0, 128));
-    p.drawText(CajaPagoVista.adjusted(6, 3, -4, -2), Qt::AlignLeft | Qt::AlignTop,
+    // The partner's item takes two lines of the box: it wraps where it runs out of width.
+    p.drawText(CajaPagoVista.adjusted(6, 3, -4, -2),
+               Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap,
                QString(TextoPago).replace(SaltoLinea, "\n"));
     p.end();
     RefrescaMesa();

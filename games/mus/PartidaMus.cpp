@@ -361,6 +361,8 @@ void PreparaManoMus() {
 
 void JuegaMus() {
     (void)Registrado;
+    // A match taken up again from its file has its stones but not yet where the heap lies.
+    if (PiedraMontonX[1] == 0 && PiedraMontonY[1] == 0) ColocaMonton();
     DibujaMonton();
     for (int s = 1; s <= 4; ++s) DibujaPiedrasSeat(s);
     if (JuegoYaGanado()) FinDeJuegoMus();
