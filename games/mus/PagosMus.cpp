@@ -391,6 +391,7 @@ bool MuestraYCobra() {
 bool FinalManoMus() {
     FaseJuego = FASE_FIN_MANO;
     ManoViva = false;
+    CallanTodos(); // a payment that won the game leaves the lance named in the mano's balloon
     Pausa(500);
     TextoMensaje = InformeMano();
     // The pair that took more stones wins the hand; on equal stones, the mano's pair; an órdago

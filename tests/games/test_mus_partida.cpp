@@ -12,6 +12,7 @@
 #include "support/MesaDePrueba.h"
 #include "table/Botonera.h"
 #include "table/Dibujo.h"
+#include "table/GblMesa.h"
 #include "table/Mensajes.h"
 #include "table/Pulsadores.h"
 
@@ -450,6 +451,8 @@ TEST(MusPartida, AMatchPutOffComesBackWithItsStonesAndGames) {
     ReiniciaEstado();
     for (int& p : Piedras) p = 0;
     for (int& g : JuegosGanados) g = 0;
+    // A program started afresh knows its stones from the file, not where the heap lay.
+    for (int i = 0; i <= 25; ++i) PiedraMontonX[i] = PiedraMontonY[i] = 0;
     JuegoActual = JUEGO_MUS;
     int manoReanudada = 0, piedrasReanudada[5] = {}, ganadosReanudada[5] = {};
     bool completasReanudada[5] = {};
@@ -472,4 +475,6 @@ TEST(MusPartida, AMatchPutOffComesBackWithItsStonesAndGames) {
         EXPECT_EQ(ganadosReanudada[s], ganados[s]) << s;
         EXPECT_EQ(completasReanudada[s], completas[s]) << s;
     }
+    for (int i = 1; i <= PIEDRAS_MONTON; ++i)
+        EXPECT_TRUE(PiedraMontonX[i] >= PilaX[0][5] && PiedraMontonX[i] < PilaX[0][5] + 44) << i;
 }
