@@ -139,8 +139,10 @@ void CalculaPuedes(int seat, int serie) {
     const bool dos = NumCartas[seat][serie] == 2;
     PuedeDoblar =
         dos && t >= 9 && t <= 11 && CartaBancaValor() != 1 && seat != Banca() && r >= apuesta;
+    // An insured pair opens with its insurance: the seat must have money for both.
     PuedeAbrir = dos && PuntosValor[mano[1][CAMPO_VALOR]] == PuntosValor[mano[2][CAMPO_VALOR]] &&
-                 SeriesJugador[seat] < 4 && seat != Banca() && r >= apuesta;
+                 SeriesJugador[seat] < 4 && seat != Banca() && r >= apuesta &&
+                 r >= ApuestaAcumulada(seat, serie);
 }
 
 bool SerieTerminada(int seat, int serie) {
