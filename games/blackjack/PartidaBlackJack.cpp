@@ -392,6 +392,8 @@ bool JuegaManoBlackJack() {
     OcultaTantos();
     EmpiezaManoApuestas();
     if (!PartidaViva) return false;
+    // The person may have chosen the leader on a wiped table: every seat's chips come back.
+    for (int s = 1; s <= 4; ++s) DibujaPilas(s);
     JugadorBanca = SEAT_BANCA_BLACKJACK;
     if (TurnoSalida == 1 || JugadorMano == JugadorBanca) JugadorMano = PrimeroConDineroTrasBanca();
     RegistroManos[NumeroMano].Sale = NombreJugador[JugadorBanca];
