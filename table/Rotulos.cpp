@@ -5,13 +5,18 @@
 #include "frame/TrufalGbl.h"
 #include "table/Dibujo.h"
 #include "table/DibujoComun.h"
+#include "table/Sugerencia.h"
 
 #include <QFontMetrics>
 #include <QPainter>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int LARGO_NOMBRE = 141;
+// Nine letters, the longest name, at the narrowest step that still reads well.
+constexpr int LARGO_NOMBRE_ESTRECHO = 9 * 11;
 constexpr int PASO_LETRA_FILA = 15, PASO_LETRA_COLUMNA = 11;
 constexpr int ANCHO_ROTULO = 301, ALTO_ROTULO = 61, ANCHO_TEXTO_ROTULO = 280;
 constexpr int LADO_ICONO = 32;
@@ -28,8 +33,10 @@ void EscribeNombre(int seat) {
     const QRect caja = CajaNombre(seat);
     const QString& nombre = NombreJugador[seat];
     const bool columna = seat == 1 || seat == 3;
-    const int paso = columna ? PASO_LETRA_COLUMNA : PASO_LETRA_FILA;
-    const int inicio = (LARGO_NOMBRE - int(nombre.size()) * paso) / 2;
+    const int largo = columna ? caja.height() : caja.width();
+    const int paso = std::min(columna ? PASO_LETRA_COLUMNA : PASO_LETRA_FILA,
+                              largo / std::max(1, int(nombre.size())));
+    const int inicio = (largo - int(nombre.size()) * paso) / 2;
     const QFont letra = LetraMesa(columna ? 11 : 13);
     for (int i = 0; i < nombre.size(); ++i) {
         const QRect celda =
@@ -107,8 +114,16 @@ QRect CajaNombre(int seat) {
         return QRect(ZonaDerecha[2] + 10, 2, LARGO_NOMBRE, 17);
     case 3:
         return QRect(AnchoMesa - 11, ZonaAbajo[3] + 8, 10, LARGO_NOMBRE);
-    default:
-        return QRect(ZonaIzquierda[4] - 10 - LARGO_NOMBRE, AltoVentana - 20, LARGO_NOMBRE, 17);
+    default: {
+        // Left of the fan, clear of the information pane at the bottom left corner when there is
+        // room for a name of nine letters there; on the smallest table the pane covers it.
+        const int fin = ZonaIzquierda[4] - 10;
+        const int x = fin - LARGO_NOMBRE < ANCHO_SUGERENCIA + 2 &&
+                              fin - ANCHO_SUGERENCIA - 2 >= LARGO_NOMBRE_ESTRECHO
+                          ? ANCHO_SUGERENCIA + 2
+                          : fin - LARGO_NOMBRE;
+        return QRect(x, AltoVentana - 20, fin - x, 17);
+    }
     }
 }
 

@@ -9,6 +9,7 @@
 #include "support/MesaDePrueba.h"
 #include "table/Dibujo.h"
 #include "table/DibujoComun.h"
+#include "table/Sugerencia.h"
 
 namespace {
 
@@ -260,6 +261,9 @@ TEST(Geometria, PilasYNombresNoPisanLasCartas) {
             for (const QRect& pilas : ocupados) EXPECT_FALSE(CajaNombre(z).intersects(pilas)) << z;
             for (int s = 1; s <= 4; ++s) EXPECT_FALSE(CajaNombre(z).intersects(RectZona(s))) << z;
         }
+        // Where there is room, the person's name stays clear of the information pane.
+        const QRect panel(0, AltoVentana - ALTO_SUGERENCIA, ANCHO_SUGERENCIA, ALTO_SUGERENCIA);
+        EXPECT_EQ(CajaNombre(4).intersects(panel), tamano.width() == 800);
         // The pot clears the stock of Póker.
         JuegoActual = JUEGO_POKER;
         ColocaMazo();
