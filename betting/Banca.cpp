@@ -51,20 +51,13 @@ void AbreMano() {
     NumCartas[seat][serie] = NumCartas[seat][nueva] = 1;
     SerieCerrada[seat][nueva] = false;
     if (JuegoActual == JUEGO_BLACKJACK) {
-        // The new series stakes what the old one did, the same chips out of the seat's row. An
-        // insurance stays with the first series: it was staked once, on the seat's hand.
-        const int apuesta = Apuesta[seat][serie][2];
-        RecomponeFichas(seat, RestoJugador(seat) - apuesta);
-        for (int f = 0; f <= 5; ++f) Apuesta[seat][nueva][f] = 0;
-        Apuesta[seat][nueva][2] = apuesta;
-        // The stake's chips were placed first: they are the head of the history.
-        int suma = 0, n = 0;
-        while (suma < apuesta && n < NumHistorial[seat][serie]) {
-            ++n;
+        // The new series stakes all the old one holds, its insurance too, with the same chips
+        // out of the seat's row.
+        RecomponeFichas(seat, RestoJugador(seat) - ApuestaAcumulada(seat, serie));
+        for (int f = 0; f <= 5; ++f) Apuesta[seat][nueva][f] = Apuesta[seat][serie][f];
+        NumHistorial[seat][nueva] = NumHistorial[seat][serie];
+        for (int n = 1; n <= NumHistorial[seat][serie]; ++n)
             HistorialFichas[seat][nueva][n] = HistorialFichas[seat][serie][n];
-            suma += ValorFicha[HistorialFichas[seat][nueva][n]];
-        }
-        NumHistorial[seat][nueva] = n;
         DibujaPilas(seat);
     }
     PuedeAbrir = false;

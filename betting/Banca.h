@@ -33,7 +33,8 @@ void LimpiaMesaBanca();
 // is at most 11, which sets ManoBlanda; otherwise ManoDura.
 double ValorMano(int seat, int serie);
 // Opens the pair of SerieActual of JugadorActual: its second card starts a new series. In Black
-// Jack the new series carries a stake equal to the old one, paid from the seat's money.
+// Jack the new series carries all the old one staked, an insurance too, paid from the seat's
+// money.
 void AbreMano();
 // The money a computer seat keeps back by its character: RestoInicial times 1.2, 0.8 or 0.5.
 int ReservaJugador(int seat);

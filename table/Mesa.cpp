@@ -17,6 +17,7 @@
 #include <QScreen>
 #include <QToolTip>
 #include <memory>
+#include <vector>
 
 namespace {
 
@@ -35,6 +36,22 @@ std::vector<const CajaImagen*> ControlesVisibles() {
     lista.push_back(&Pic_Mover);
     return lista;
 }
+
+// What a paint shows: the table's picture and each control over it, visible or not, where it
+// lies and what it holds. A wait asks for a paint only when this differs from the last one shown,
+// so an idle table sleeps instead of painting itself over and over.
+std::vector<qint64> HuellaVisible() {
+    std::vector<qint64> huella{Pic_Mesa.Imagen.cacheKey()};
+    for (const CajaImagen* c : ControlesVisibles()) {
+        if (c->Visible)
+            huella.insert(huella.end(), {c->X, c->Y, c->Imagen.cacheKey()});
+        else
+            huella.push_back(-1);
+    }
+    return huella;
+}
+
+std::vector<qint64> HuellaMostrada;
 
 } // namespace
 
@@ -62,6 +79,7 @@ QPointF VentanaMesa::ALaMesa(const QPointF& punto) const {
 }
 
 void VentanaMesa::paintEvent(QPaintEvent*) {
+    HuellaMostrada = HuellaVisible();
     QPainter p(this);
     p.fillRect(rect(), QColor(0, 60, 0));
     if (Pic_Mesa.Imagen.isNull()) return;
@@ -165,7 +183,7 @@ QCursor CursorPropio(int forma) {
 } // namespace
 
 void SolicitaRepintado() {
-    if (LaMesa && LaMesa->isVisible()) LaMesa->update();
+    if (LaMesa && LaMesa->isVisible() && HuellaVisible() != HuellaMostrada) LaMesa->update();
 }
 
 void PonCursor(int forma) {

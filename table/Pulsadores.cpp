@@ -166,26 +166,29 @@ void ColocaPulsador(int seat, int indice) {
     const bool tumbado = seat == 1 || seat == 3;
     DibujaPulsador(indice, tumbado);
     CajaImagen& b = Pic_Pulsador[indice];
-    // Buttons of a seat stand in a row beside its cards, one after the other by index.
-    int orden = 0;
-    for (int i = 81; i < indice; ++i)
-        if (Pic_Pulsador[i].Visible && Pic_Pulsador[i].Texto == QString::number(seat)) ++orden;
-    const int paso = (tumbado ? b.Alto() : b.Ancho()) + 4;
+    // Buttons of a seat stand in a row beside its cards, one after the other by index; the
+    // narrow arrows take only their own room.
+    int avance = 0;
+    for (int i = 81; i < indice; ++i) {
+        const CajaImagen& antes = Pic_Pulsador[i];
+        if (antes.Visible && antes.Texto == QString::number(seat))
+            avance += (tumbado ? antes.Alto() : antes.Ancho()) + 4;
+    }
     switch (seat) {
     case 1:
         b.X = ZonaDerecha[1] + 4;
-        b.Y = ZonaArriba[1] + orden * paso;
+        b.Y = ZonaArriba[1] + avance;
         break;
     case 2:
-        b.X = ZonaIzquierda[2] + orden * paso;
+        b.X = ZonaIzquierda[2] + avance;
         b.Y = ZonaAbajo[2] + 4;
         break;
     case 3:
         b.X = ZonaIzquierda[3] - b.Ancho() - 4;
-        b.Y = ZonaArriba[3] + orden * paso;
+        b.Y = ZonaArriba[3] + avance;
         break;
     default:
-        b.X = ZonaIzquierda[4] + orden * paso;
+        b.X = ZonaIzquierda[4] + avance;
         b.Y = ZonaArriba[4] - b.Alto() - 4;
         break;
     }

@@ -139,8 +139,10 @@ void CalculaPuedes(int seat, int serie) {
     const bool dos = NumCartas[seat][serie] == 2;
     PuedeDoblar =
         dos && t >= 9 && t <= 11 && CartaBancaValor() != 1 && seat != Banca() && r >= apuesta;
+    // An insured pair opens with its insurance: the seat must have money for both.
     PuedeAbrir = dos && PuntosValor[mano[1][CAMPO_VALOR]] == PuntosValor[mano[2][CAMPO_VALOR]] &&
-                 SeriesJugador[seat] < 4 && seat != Banca() && r >= apuesta;
+                 SeriesJugador[seat] < 4 && seat != Banca() && r >= apuesta &&
+                 r >= ApuestaAcumulada(seat, serie);
 }
 
 bool SerieTerminada(int seat, int serie) {
@@ -390,6 +392,8 @@ bool JuegaManoBlackJack() {
     OcultaTantos();
     EmpiezaManoApuestas();
     if (!PartidaViva) return false;
+    // The person may have chosen the leader on a wiped table: every seat's chips come back.
+    for (int s = 1; s <= 4; ++s) DibujaPilas(s);
     JugadorBanca = SEAT_BANCA_BLACKJACK;
     if (TurnoSalida == 1 || JugadorMano == JugadorBanca) JugadorMano = PrimeroConDineroTrasBanca();
     RegistroManos[NumeroMano].Sale = NombreJugador[JugadorBanca];

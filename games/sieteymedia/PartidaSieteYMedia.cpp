@@ -374,6 +374,8 @@ bool JuegaManoSieteYMedia() {
     OcultaTantos();
     EmpiezaManoApuestas();
     if (!PartidaViva) return false;
+    // The person may have chosen the bank on a wiped table: every seat's chips come back.
+    for (int s = 1; s <= 4; ++s) DibujaPilas(s);
     RegistroManos[NumeroMano].Sale = NombreJugador[Banca()];
     NuevaBanca = 0;
     CompruebaMesa();

@@ -153,6 +153,9 @@ TEST(BlackJack, StackedHandsArePaidAsTheRulesSay) {
         {{7, 10, 7, 7, 1}, "C", -10, 1, "Jugador4 : 21"},
         // Eights split into four series against a 6; the bank busts and pays each.
         {{8, 6, 8, 8, 8, 8, 10, 10, 2, 10, 10}, "AAAPPPP", 40, 4, "Jugador4 / 4 : 10"},
+        // Eights insured, then split: each series takes an insurance of 5 won against the
+        // bank's Black Jack, and loses its stake.
+        {{8, 1, 8, 10, 10, 13}, "SAPP", 0, 2, "Banca : Black Jack"},
         // Split aces: one card each; 21 on a split pays even money, 16 loses to 17.
         {{1, 9, 1, 13, 5, 8}, "A", 0, 2, "Jugador4 / 1 : 21"},
     };
@@ -280,7 +283,8 @@ struct Simulador {
         const bool bancaBJ = banca.size() == 2 && tb == 21;
         double gana = 0;
         for (int s = 0; s < 3; ++s) {
-            if (seguro[s]) gana += bancaBJ ? 1.0 : -0.5;
+            // An insurance taken before a pair is opened goes with every series.
+            if (seguro[s]) gana += (bancaBJ ? 1.0 : -0.5) * double(seats[s].size());
             for (const Serie& e : seats[s]) {
                 const double apuesta = e.Doblada ? 2 : 1;
                 const int t = Suma(e.Cartas).Puntos;
