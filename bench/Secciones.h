@@ -12,8 +12,9 @@ double ManosPorSegundo(const MesaAutomatica& mesa, int manos);
 void BenchTuteBrisca();
 void BenchPoker();
 void BenchPokerMotor();
-// Level 100 against level 0 in matches of two seats with this money each.
-void BenchPokerNiveles(int partidas, int resto);
+// Chips won a hand by a seat at level 100 against seats at level 0, over that many hands for
+// each character, each seat starting with this money; and what each gate of the level changes.
+void BenchPokerNiveles(long manos, int resto);
 void BenchChinchon();
 void BenchMus();
 void BenchCinquillo();

@@ -93,28 +93,5 @@ void BenchPokerMotor() {
     std::printf("Póker, evaluación de jugadas y jugador del ordenador:\n");
     Enumeracion();
     PeorDecision();
-    BenchPokerNiveles(100, 50);
-}
-
-// Matches of two seats of one character, one at level 100 and one at 0; they change places from
-// one match to the next. The longer the match, the less luck decides it.
-void BenchPokerNiveles(int partidas, int resto) {
-    for (int caracter = 1; caracter <= 3; ++caracter) {
-        int ganadas = 0, manos = 0;
-        for (unsigned semilla = 1; semilla <= unsigned(partidas); ++semilla) {
-            const int impar = semilla % 2;
-            PreparaPartidaAutomatica({JUEGO_POKER, 2, false, [=] {
-                                          RestoInicial = resto;
-                                          for (int s = 1; s <= 2; ++s) {
-                                              NivelJugador[s] = s % 2 == impar ? 100 : 0;
-                                              CaracterJugador[s] = caracter;
-                                          }
-                                      }});
-            manos += JuegaPartidaAutomatica(semilla);
-            if (NivelJugador[GanadorPartida] == 100) ++ganadas;
-        }
-        std::printf("  Nivel 100 contra nivel 0, carácter %d, dos asientos con %d: gana %d de %d "
-                    "partidas (%.1f manos por partida)\n",
-                    caracter, resto, ganadas, partidas, double(manos) / partidas);
-    }
+    BenchPokerNiveles(2000, 1000);
 }

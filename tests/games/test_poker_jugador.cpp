@@ -88,6 +88,10 @@ TEST(DecideDescartes, PosicionesResueltasAMano) {
         // jack alone is not worth keeping.
         {"8O 9C 10E JB 3O", MEDIO, 49, 5, 1, "12345"},
         {"8O 9C 10E JB 3O", MEDIO, 50, 5, 1, "5"},
+        // Four to a straight flush: a bold seat draws to it from level 25; below it the hand is
+        // loose cards, and a bold seat keeps none but an ace.
+        {"5C 6C 7C 8C KO", AGRESIVO, 24, 5, 1, "12345"},
+        {"5C 6C 7C 8C KO", AGRESIVO, 25, 5, 1, "5"},
         // A made hand is kept whole; with no draws allowed nothing moves.
         {"2O 3C 4E 5B 6O", CONSERVADOR, 0, 5, 1, ""},
         {"AO KC 9E 6B 3O", CONSERVADOR, 100, 0, 1, ""},
