@@ -2,7 +2,7 @@
 // a second, and the costly routines of each game.
 //   trufal_bench              every figure
 //   trufal_bench --firmas     only the signatures, in the form of bench/firmas.txt
-//   trufal_bench --tasas      only the Black Jack loss rates, over fewer hands
+//   trufal_bench --tasas [manos]   only the Black Jack loss rates, over 30,000 hands or those given
 //   trufal_bench --mus        only the figures of the Mus
 //   trufal_bench --niveles [manos] [resto]   only the Póker's level 100 against level 0
 #include <QApplication>
@@ -31,7 +31,7 @@ int main(int argc, char** argv) {
     }
     const bool soloFirmas = argc > 1 && std::strcmp(argv[1], "--firmas") == 0;
     if (argc > 1 && std::strcmp(argv[1], "--tasas") == 0) {
-        BenchBlackJackTasas(30000);
+        BenchBlackJackTasas(argc > 2 ? std::atoll(argv[2]) : 30000);
         return 0;
     }
     if (!soloFirmas) {
