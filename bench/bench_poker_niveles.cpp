@@ -302,9 +302,9 @@ void BenchPokerNiveles(long manos, int resto) {
                 "nivel bajo del mismo carácter\n(partidas de %d manos como mucho, %d fichas cada "
                 "asiento al empezar, apuesta máxima 25):\n",
                 MANOS_POR_PARTIDA, resto);
-    // Nothing of these matches is looked at: the table draws nowhere, which keeps them quick.
-    const QImage mesa = Pic_Mesa.Imagen;
-    Pic_Mesa.Imagen = QImage();
+    // Nothing of these matches is looked at: the table isn't drawn, which keeps them quick.
+    const bool pintura = PinturaOmitida;
+    PinturaOmitida = true;
     ImprimeGanancias("Nivel 100 contra nivel 0, dos asientos:", 2, NIVEL_ALTO, NIVEL_BAJO, manos,
                      resto);
     ImprimeGanancias("Nivel 100 contra nivel 0, cuatro asientos:", 4, NIVEL_ALTO, NIVEL_BAJO, manos,
@@ -313,7 +313,7 @@ void BenchPokerNiveles(long manos, int resto) {
                      NIVEL_ALTO, 90, manos, resto);
     Cambios cambios[4];
     CuentaPuertas(manos, resto, cambios);
-    Pic_Mesa.Imagen = mesa;
+    PinturaOmitida = pintura;
     std::printf("  Decisiones que cambia cada puerta del nivel, en los turnos de %ld manos de la "
                 "mesa automática\n  de cuatro asientos (niveles 100, 75, 50 y 0), por el "
                 "carácter del asiento (cambia / se mira):\n",
