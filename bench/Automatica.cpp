@@ -70,10 +70,11 @@ void PreparaPartidaAutomatica(const MesaAutomatica& mesa) {
     PasoSentido = PasoSentidoPumba = SentidoJuego == 1 ? 1 : -1;
 }
 
-int JuegaPartidaAutomatica(unsigned semilla) {
+int JuegaPartidaAutomatica(unsigned semilla, bool todosLosFotogramas) {
     const bool pausas = PausasACero, vuelos = VuelosOmitidos;
     const unsigned semillaAntes = SemillaFija;
-    PausasACero = VuelosOmitidos = true;
+    PausasACero = true;
+    VuelosOmitidos = !todosLosFotogramas;
     SemillaFija = semilla;
     PersonaGuionada = [] { EsperandoPersona = false; };
     RespuestasGuionadas.assign(4, false); // no history of these matches

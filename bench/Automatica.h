@@ -22,8 +22,9 @@ struct MesaAutomatica {
 // Puts the seats and the rules of that match in place: levels 100, 75, 50 and 0 with the three
 // characters in turn, so that every gate of the computer players is crossed.
 void PreparaPartidaAutomatica(const MesaAutomatica& mesa);
-// Plays one whole match from the seed; returns the hands played.
-int JuegaPartidaAutomatica(unsigned semilla);
+// Plays one whole match from the seed; returns the hands played. Cards land at once and the
+// frames that the next one covers are left out, unless every frame is asked for.
+int JuegaPartidaAutomatica(unsigned semilla, bool todosLosFotogramas = false);
 // A fingerprint of the match just played: each hand's record, the games won, the money, the
 // stones.
 quint64 HuellaPartida(quint64 huella = 14695981039346656037ull);

@@ -10,6 +10,9 @@ double SegundosDeProceso();
 double ManosPorSegundo(const MesaAutomatica& mesa, int manos);
 
 void BenchTuteBrisca();
+// Automatic hands a second of Tute and Brisca, drawn and not (or only not), over that many times
+// the usual hands.
+void BenchTuteBriscaManos(int repeticion, bool soloSinPintar = false);
 void BenchPoker();
 void BenchPokerMotor();
 // Chips won a hand by a seat at level 100 against seats at level 0, over that many hands for

@@ -5,6 +5,7 @@
 //   trufal_bench --tasas [manos]   only the Black Jack loss rates, over 30,000 hands or those given
 //   trufal_bench --mus        only the figures of the Mus
 //   trufal_bench --niveles [manos] [resto]   only the Póker's level 100 against level 0
+//   trufal_bench --manos [veces]   only the hands a second of Tute and Brisca, over more hands
 #include <QApplication>
 #include <QTemporaryDir>
 #include <cstdio>
@@ -23,6 +24,11 @@ int main(int argc, char** argv) {
     if (argc > 1 && std::strcmp(argv[1], "--niveles") == 0) {
         BenchPokerNiveles(argc > 2 ? std::atol(argv[2]) : 20000,
                           argc > 3 ? std::atoi(argv[3]) : 1000);
+        return 0;
+    }
+    if (argc > 1 && std::strcmp(argv[1], "--manos") == 0) {
+        BenchTuteBriscaManos(argc > 2 ? std::atoi(argv[2]) : 1,
+                             argc > 3 && std::strcmp(argv[3], "sola") == 0);
         return 0;
     }
     if (argc > 1 && std::strcmp(argv[1], "--mus") == 0) {

@@ -58,18 +58,25 @@ void BenchTuteBrisca() {
         std::printf("  %-6s %d jugadores, %d cartas: %10.3f ms\n", c.nombre, c.jugadores, c.cartas,
                     PeorSimulacion(c.juego, c.jugadores, c.cartas, 5));
 
+    BenchTuteBriscaManos(1);
+}
+
+void BenchTuteBriscaManos(int repeticion, bool soloSinPintar) {
     std::printf("Manos automáticas por segundo (pausas a cero, sin vuelos, mesa sin ventana),\n"
                 "con la mesa pintada y con el juego solo (sin pintar):\n");
     for (int jugadores = 2; jugadores <= 4; ++jugadores) {
         for (const int juego : {JUEGO_TUTE, JUEGO_BRISCA}) {
             const MesaAutomatica mesa{juego, jugadores, false, [] { LimitePartida = 5; }};
-            const int manos = juego == JUEGO_TUTE ? 400 : 2000;
-            const double pintada = ManosPorSegundo(mesa, manos);
+            const int manos = (juego == JUEGO_TUTE ? 400 : 2000) * repeticion;
+            const long long pixeles = PixelesPintados;
+            const double pintada = soloSinPintar ? 0 : ManosPorSegundo(mesa, manos);
+            const long long porMano = (PixelesPintados - pixeles) / manos;
             PinturaOmitida = true;
             const double sola = ManosPorSegundo(mesa, manos);
             PinturaOmitida = false;
-            std::printf("  %-6s %d jugadores: %8.1f %8.1f\n",
-                        juego == JUEGO_TUTE ? "Tute" : "Brisca", jugadores, pintada, sola);
+            std::printf("  %-6s %d jugadores: %8.1f %8.1f   %5.2f millones de píxeles por mano\n",
+                        juego == JUEGO_TUTE ? "Tute" : "Brisca", jugadores, pintada, sola,
+                        porMano / 1e6);
         }
     }
 }

@@ -406,12 +406,17 @@ void CierraPartida(const QString& texto, int lineas) {
 void SenalaJugador() {
     FraseJugador[JugadorActual][1].clear();
     for (int vuelta = 1; vuelta <= VueltasAnimacion(2); ++vuelta) {
-        if (ApuestaDelante && JugadorActual != JugadorBanca) BorraPila(JugadorActual);
         const int s = JugadorActual;
-        BorraZona(ZonaIzquierda[s], ZonaArriba[s], ZonaDerecha[s] - ZonaIzquierda[s] + 1,
-                  ZonaAbajo[s] - ZonaArriba[s] + 1);
-        RefrescaMesa();
-        Pausa(210);
+        // The seat goes dark for a moment. Automatic play skips that frame, which nobody sees:
+        // the seat and its chips are drawn whole again at once, over all the dark frame covered.
+        // The Mus keeps it, as its faces lie in the seat's zone.
+        if (FotogramaVisible() || JuegoActual == JUEGO_MUS) {
+            if (ApuestaDelante && JugadorActual != JugadorBanca) BorraPila(JugadorActual);
+            BorraZona(ZonaIzquierda[s], ZonaArriba[s], ZonaDerecha[s] - ZonaIzquierda[s] + 1,
+                      ZonaAbajo[s] - ZonaArriba[s] + 1);
+            RefrescaMesa();
+            Pausa(210);
+        }
         DibujaJugador(s);
         if (ApuestaDelante && JugadorActual != JugadorBanca) DibujaPilas(s);
         RefrescaMesa();

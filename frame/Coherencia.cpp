@@ -97,6 +97,7 @@ bool MesaCoherente(QString* fallo) {
 }
 
 void CompruebaMesa() {
+    if (MesaTrasJugada) MesaTrasJugada();
     if (!ComprobarCoherencia) return;
     QString fallo;
     if (!MesaCoherente(&fallo))

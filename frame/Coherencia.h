@@ -34,5 +34,7 @@ int DineroEnMesa();
 // Notes the money as the match starts with it.
 void AnotaDineroPartida();
 // When ComprobarCoherencia is on, stops the program with the fault if the table isn't coherent:
-// a move that loses a card must not pass unnoticed.
+// a move that loses a card must not pass unnoticed. Drivers call it at the end of every move.
 void CompruebaMesa();
+// Where a test looks at the table at the end of every move.
+inline std::function<void()> MesaTrasJugada;

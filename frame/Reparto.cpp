@@ -200,7 +200,10 @@ void RobaCartas(int seat, int n, int marca) {
         ++NumCartas[seat][serie];
         --CartasEnMazo;
         DibujaMazo(MazoX, MazoY, CartasEnMazo);
-        VuelaDesdeMazo(seat, slot, NumCartas[seat][serie]);
+        // The seat is drawn whole right after: in automatic play the landing is a frame nobody
+        // sees. The Mus draws no cards over the faces in the zone, and keeps it.
+        if (FotogramaVisible() || JuegoActual == JUEGO_MUS)
+            VuelaDesdeMazo(seat, slot, NumCartas[seat][serie]);
         DibujaJugador(seat);
         slot = PrimerHueco(seat, serie, slot + 1);
         Pausa(60);

@@ -190,6 +190,8 @@ void ReparteManual() {
 void DibujaPanelReparto() {
     BorraZona(PanelRepartoX, PanelRepartoY, ANCHO_PANEL, AltoPanel());
     if (Pic_Mesa.Imagen.isNull()) return;
+    // The thumbnails of the panel lie anywhere on the table.
+    AvisaEscritura(Pic_Mesa.Imagen, QRect(0, 0, AnchoVentana, AltoVentana));
     QPainter p(&Pic_Mesa.Imagen);
     for (int id = 1; id <= IdsCartas; ++id) {
         if (!MiniaturaLibre[id]) continue;

@@ -17,8 +17,13 @@ std::mt19937& Generador() {
 }
 
 // Rounds half away from zero at the given decimals, as the number formats do.
+constexpr double POTENCIAS_DIEZ[] = {1, 10, 100, 1000, 10000, 100000, 1000000};
+constexpr int MAX_DECIMALES_RAPIDOS = 6;
+
 double RedondeaFormato(double valor, int decimales) {
-    const double escala = std::pow(10.0, decimales);
+    const double escala = decimales >= 0 && decimales <= MAX_DECIMALES_RAPIDOS
+                              ? POTENCIAS_DIEZ[decimales]
+                              : std::pow(10.0, decimales);
     const double v = std::fabs(valor) * escala;
     // A hair above the half absorbs the binary error of values such as 2.675.
     const double r = std::floor(v + 0.5 + 1e-9);
@@ -45,7 +50,40 @@ int Signo(double x) {
     return (x > 0) - (x < 0);
 }
 
+namespace {
+
+// The keys of the sorted lists are written with formats of zeros alone ("0000", "000.00"), many
+// thousand times a hand: those are written here straight from the rounded whole number, as the
+// general routine below would write them.
+bool FormatoDeCeros(const QString& formato, int& enteros, int& decimales) {
+    enteros = decimales = 0;
+    bool punto = false;
+    for (const QChar c : formato) {
+        if (c == '0')
+            ++(punto ? decimales : enteros);
+        else if (c == '.' && !punto)
+            punto = true;
+        else
+            return false;
+    }
+    return enteros > 0 && (!punto || decimales > 0) && decimales <= MAX_DECIMALES_RAPIDOS;
+}
+
+} // namespace
+
 QString Formato(double valor, const QString& formato) {
+    int ceros = 0, cerosDecimales = 0;
+    if (std::fabs(valor) < 1e9 && FormatoDeCeros(formato, ceros, cerosDecimales)) {
+        const double redondeado = RedondeaFormato(valor, cerosDecimales);
+        const auto escala = static_cast<long long>(POTENCIAS_DIEZ[cerosDecimales]);
+        const long long total =
+            std::llround(std::fabs(redondeado) * POTENCIAS_DIEZ[cerosDecimales]);
+        QString texto = QString::number(total / escala).rightJustified(ceros, '0');
+        if (cerosDecimales > 0)
+            texto += '.' + QString::number(total % escala).rightJustified(cerosDecimales, '0');
+        if (redondeado < 0 && total != 0) texto.prepend('-');
+        return texto;
+    }
     const int punto = formato.indexOf('.');
     const QString entera = punto < 0 ? formato : formato.left(punto);
     const QString fraccion = punto < 0 ? QString() : formato.mid(punto + 1);

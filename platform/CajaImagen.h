@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QImage>
+#include <QRect>
 #include <QString>
 
 // Pixels of the screen for each pixel of the table: 2 on a dense screen, where every picture
@@ -33,6 +34,9 @@ QImage AEscalaMesa(const QImage& sencilla, const QImage& doble = QImage());
 // Play and tests never set it; the table's picture is then whatever was last painted.
 inline bool PinturaOmitida = false;
 
+// Table pixels written by the transfers and fills so far: the benchmark tells what a hand draws.
+inline long long PixelesPintados = 0;
+
 enum class OpRaster { Copia, And, Xor, Or };
 
 // Gives the box a new size, filled with a colour; what it held is lost.
@@ -51,6 +55,12 @@ void TransfiereConMascara(QImage& destino, int x, int y, int ancho, int alto, co
 
 // Fills a block, in table pixels, with one colour; parts outside the picture are clipped.
 void Rellena(QImage& destino, int x, int y, int ancho, int alto, unsigned colorRgb);
+
+// One picture may be watched: every block drawn on it is told, in table pixels, to the routine
+// given, so the table knows which of its parts still show what it last drew there. Drawing by
+// other means (a painter writing text) tells it with AvisaEscritura.
+void VigilaEscrituras(const QImage* imagen, void (*aviso)(const QRect& zona));
+void AvisaEscritura(const QImage& destino, const QRect& zona);
 
 // A quarter turn clockwise: pixel (x, y) goes to (height - 1 - y, x) of the turned picture, so
 // the sheet of a seat on the left reads from the table's middle.

@@ -7,6 +7,7 @@
 #include <functional>
 
 class QImage;
+class QRect;
 
 // Lays out the table for AnchoVentana by AltoVentana: zones, trick places, piles, the stock
 // and the pile, the bar; loads the sheets and sets the words of the program.
@@ -30,6 +31,18 @@ void BorraVentana(); // the whole table in its colour, the bar left as it is
 // One card: face 1 its back, 2 its face; partial 1 the half-covered card.
 void DibujaCarta(QImage& destino, int x, int y, int orientacion, int palo, int valor, int cara,
                  int parcial = 0);
+// The same card, only the part of it inside recorte (table pixels).
+void DibujaCartaEn(QImage& destino, int x, int y, int orientacion, int palo, int valor, int cara,
+                   int parcial, const QRect& recorte);
+// The same card, but for the part under `encima`, which a card drawn next covers whole.
+void DibujaCartaBajo(QImage& destino, int x, int y, int orientacion, int palo, int valor, int cara,
+                     int parcial, const QRect& encima);
+// A band of a card at (x, y) that hides whatever lies under it, clear of the rounded corners:
+// across all its columns less the rows the corners reach (horizontal), or down all its rows
+// less their columns.
+QRect BandaOpaca(int x, int y, int orientacion, bool horizontal);
+// Wipes a zone but for the part that is drawn over whole right after.
+void BorraZonaBajo(const QRect& zona, const QRect& encima);
 // A stock of count cards, a back for every 4 cards of each deck, leaning up and to the right; with
 // Tute's trump lying under it, and Chinchón's pile ending with its top card face up.
 void DibujaMazo(int x, int y, int cuenta);
@@ -73,6 +86,11 @@ inline bool VuelosOmitidos = false;
 // The rounds of a blink: as many as asked, or one when flights are skipped.
 inline int VueltasAnimacion(int vueltas) {
     return VuelosOmitidos ? 1 : vueltas;
+}
+// Whether a frame that the next one covers whole is drawn: on screen always; in automatic play,
+// which nobody watches, only what each move leaves on the table is drawn.
+inline bool FotogramaVisible() {
+    return !VuelosOmitidos;
 }
 
 // Headless checks: when set, the drawing tells here each sound it plays and each step of a

@@ -137,7 +137,7 @@ void MarcaPaso(int seat) {
     Pausa(90);
     BorraPila(seat + 10);
     for (int vuelta = 1; vuelta <= VueltasAnimacion(2); ++vuelta) {
-        DibujaMarcaPaso(seat);
+        if (FotogramaVisible()) DibujaMarcaPaso(seat);
         RefrescaMesa();
         SuenaMesa(SONIDO_SINCRONO, SONIDO_PASO);
         Pausa(420);

@@ -50,6 +50,7 @@ void EscribeEnFila(QPainter& p, int seat, const QString& texto) {
 }
 
 void EscribeTexto(int seat, const QString& texto, const QColor& color, int desvio) {
+    AvisaEscritura(Pic_Mesa.Imagen, FranjaFrase(seat));
     QPainter p(&Pic_Mesa.Imagen);
     p.setClipRect(FranjaFrase(seat));
     p.translate(desvio, desvio);

@@ -5,6 +5,7 @@
 #include "frame/TrufalBas.h"
 #include "frame/TrufalGbl.h"
 #include "table/Dibujo.h"
+#include "table/PartesMesa.h"
 #include "table/DibujoComun.h"
 #include "table/Sugerencia.h"
 
@@ -160,6 +161,7 @@ void PreparaMesa() {
     ColocaTriunfo();
 
     DimensionaCaja(Pic_Mesa, AnchoVentana, AltoVentana, COLOR_MESA);
+    VigilaMesa();
     DimensionaCaja(Pic_Espejo, AnchoVentana, AltoVentana, COLOR_MESA);
     for (int s = 1; s <= 4; ++s) {
         DimensionaCaja(Pic_Tantos[s], 44, 23, COLOR_MESA);

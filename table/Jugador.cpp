@@ -1,11 +1,14 @@
 // A seat brought up to date: its action buttons, its cards, its phrase and its stake.
 #include "betting/Fichas.h"
+#include <algorithm>
+#include <cstdlib>
 #include "frame/Ciclo.h"
 #include "frame/TrufalGbl.h"
 #include "platform/Sonido.h"
 #include "table/Dibujo.h"
 #include "table/DibujoComun.h"
 #include "table/Frases.h"
+#include "table/PartesMesa.h"
 #include "table/Pulsadores.h"
 
 namespace {
@@ -48,8 +51,80 @@ QRect ExtensionFila(int seat) {
     return fila;
 }
 
+// Whether the card at that position is drawn in the row: not an empty slot, not the card that
+// hangs from the pointer.
+bool CartaEnFila(int seat, int p) {
+    return CartasJugador[seat][SerieActual][p][CAMPO_PALO] != 0 &&
+           !(ArrastrandoCarta && p == PosicionOrigen);
+}
+
+// The rows of the seats at the top and the bottom run across the table; the sides' run down it.
+bool FilaHorizontal(int seat) {
+    return OrientacionSeat[seat] == 1 || OrientacionSeat[seat] == 3;
+}
+
+// The band that a row of cards hides whole, when its cards lie in one line edge to edge or
+// overlapping: the wipe under it is then not needed. Empty when the row has a gap or a card
+// out of line.
+QRect BandaDeFila(int seat) {
+    const int total = NumCartas[seat][SerieActual];
+    const bool horizontal = FilaHorizontal(seat);
+    QRect banda;
+    int ultima = 0;
+    for (int p = 1; p <= total; ++p) {
+        if (!CartaEnFila(seat, p)) return QRect();
+        PosicionCarta(seat, p, total);
+        const QRect b = BandaOpaca(CartaX, CartaY, OrientacionSeat[seat], horizontal);
+        if (b.isEmpty()) return QRect();
+        if (banda.isNull()) {
+            banda = b;
+            ultima = horizontal ? b.left() : b.top();
+            continue;
+        }
+        // Every card at the same height (or column), each touching the last.
+        if (horizontal ? (b.top() != banda.top() || b.height() != banda.height())
+                       : (b.left() != banda.left() || b.width() != banda.width()))
+            return QRect();
+        const int inicio = horizontal ? b.left() : b.top();
+        const int largo = horizontal ? b.width() : b.height();
+        if (std::abs(inicio - ultima) > largo) return QRect();
+        ultima = inicio;
+        banda = banda.united(b);
+    }
+    return banda;
+}
+
 bool SenasEnLaZona(int seat) {
     return JuegoActual == JUEGO_MUS && SenasVisibles[seat];
+}
+
+// What the seat's row shows: its cards with their faces, marks and places, the sheets they are
+// drawn from, and the area wiped under them.
+quint64 FirmaFila(int seat, const QRect& limpia) {
+    FirmaParte firma;
+    const int total = NumCartas[seat][SerieActual];
+    firma << seat << SerieActual << total << OrientacionSeat[seat] << ReversoCartas
+          << (JuegoActual == JUEGO_SIETEYMEDIA) << limpia;
+    for (int p = 1; p <= total; ++p) {
+        const auto& c = CartasJugador[seat][SerieActual][p];
+        const bool colgada = ArrastrandoCarta && p == PosicionOrigen;
+        firma << colgada << c[CAMPO_PALO] << c[CAMPO_VALOR] << c[CAMPO_CARA] << c[CAMPO_ESTADO]
+              << c[CAMPO_MARCA];
+    }
+    for (int o = 1; o <= 4; ++o)
+        firma << Pic_Baraja[o].Imagen.cacheKey() << Pic_Comodin[o].Imagen.cacheKey();
+    firma << Pic_BarReversos[1].Imagen.cacheKey() << Pic_BarReversos[2].Imagen.cacheKey();
+    return firma.Valor;
+}
+
+bool HayCartaLevantada(int seat) {
+    for (int p = 1; p <= NumCartas[seat][SerieActual]; ++p) {
+        const auto& c = CartasJugador[seat][SerieActual][p];
+        if (c[CAMPO_PALO] != 0 && c[CAMPO_ESTADO] == 1 &&
+            !(ArrastrandoCarta && p == PosicionOrigen))
+            return true;
+    }
+    return false;
 }
 
 void DibujaCartas(int seat) {
@@ -68,9 +143,18 @@ void DibujaCartas(int seat) {
     // step is rounded: what the last row covered is wiped with the zone.
     static QRect filaAnterior[5];
     const QRect limpia = zona.united(filaAnterior[seat]);
-    BorraZona(limpia.x(), limpia.y(), limpia.width(), limpia.height());
-    filaAnterior[seat] = ExtensionFila(seat);
-    if (PintaCartasSeat(Pic_Mesa.Imagen, seat)) SuenaMesa(SONIDO_ASINCRONO, SONIDO_CARTA_SUBE);
+    const QRect fila = ExtensionFila(seat);
+    filaAnterior[seat] = fila;
+    const quint64 firma = FirmaFila(seat, limpia);
+    bool levantada;
+    if (ParteIntacta(PARTE_SEAT + seat, firma)) {
+        levantada = HayCartaLevantada(seat);
+    } else {
+        BorraZonaBajo(limpia, BandaDeFila(seat));
+        levantada = PintaCartasSeat(Pic_Mesa.Imagen, seat);
+        AnotaParte(PARTE_SEAT + seat, limpia.united(fila), firma);
+    }
+    if (levantada) SuenaMesa(SONIDO_ASINCRONO, SONIDO_CARTA_SUBE);
 }
 
 void EscribeFraseDelSeat(int seat) {
@@ -113,15 +197,24 @@ void DibujaApuestaDelante(int seat) {
 bool PintaCartasSeat(QImage& destino, int seat, int dx, int dy) {
     bool levantada = false;
     const int total = NumCartas[seat][SerieActual];
-    for (int p = 1; p <= total; ++p) {
-        const auto& carta = CartasJugador[seat][SerieActual][p];
-        if (ArrastrandoCarta && p == PosicionOrigen) continue; // it hangs from the pointer
-        if (carta[CAMPO_PALO] == 0) continue;
-        PosicionCarta(seat, p, total);
+    int dibujadas[MAX_MANO + 1], n = 0;
+    for (int p = 1; p <= total && n <= MAX_MANO; ++p)
+        if (CartaEnFila(seat, p)) dibujadas[n++] = p;
+    for (int i = 0; i < n; ++i) {
+        const auto& carta = CartasJugador[seat][SerieActual][dibujadas[i]];
+        PosicionCarta(seat, dibujadas[i], total);
+        const int x = CartaX - dx, y = CartaY - dy;
+        // The next card of the row hides most of this one: only what shows of it is drawn.
+        QRect encima;
+        if (i + 1 < n) {
+            PosicionCarta(seat, dibujadas[i + 1], total);
+            encima =
+                BandaOpaca(CartaX - dx, CartaY - dy, OrientacionSeat[seat], FilaHorizontal(seat));
+        }
         // Only Siete y media uses the mark of a card to half cover it.
         const int parcial = JuegoActual == JUEGO_SIETEYMEDIA ? carta[CAMPO_MARCA] : 0;
-        DibujaCarta(destino, CartaX - dx, CartaY - dy, OrientacionSeat[seat], carta[CAMPO_PALO],
-                    carta[CAMPO_VALOR], carta[CAMPO_CARA], parcial);
+        DibujaCartaBajo(destino, x, y, OrientacionSeat[seat], carta[CAMPO_PALO], carta[CAMPO_VALOR],
+                        carta[CAMPO_CARA], parcial, encima);
         if (carta[CAMPO_ESTADO] == 1) levantada = true;
     }
     return levantada;

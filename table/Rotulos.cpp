@@ -5,6 +5,7 @@
 #include "frame/TrufalGbl.h"
 #include "table/Dibujo.h"
 #include "table/DibujoComun.h"
+#include "table/PartesMesa.h"
 #include "table/Sugerencia.h"
 
 #include <QFontMetrics>
@@ -86,6 +87,12 @@ int ValorSerieBlackJack(int seat, int serie) {
 
 void PintaTantos(int seat, int numero, bool enmarcado) {
     QImage& panel = Pic_Tantos[seat].Imagen;
+    // A tally that shows its number already is left as it is: the trick games ask at every trick.
+    static qint64 pintado[5] = {};
+    static int numeroPintado[5] = {}, enmarcadoPintado[5] = {};
+    if (panel.cacheKey() == pintado[seat] && numeroPintado[seat] == numero &&
+        enmarcadoPintado[seat] == enmarcado)
+        return;
     panel = NuevaImagen(44, 23);
     panel.fill(QColor(0, 0x40, 0));
     QPainter p(&panel);
@@ -100,6 +107,10 @@ void PintaTantos(int seat, int numero, bool enmarcado) {
     p.setFont(LetraMesa(15));
     p.setPen(QColor(255, 255, 160));
     p.drawText(panel.rect(), Qt::AlignCenter, QString::number(numero));
+    p.end();
+    pintado[seat] = panel.cacheKey();
+    numeroPintado[seat] = numero;
+    enmarcadoPintado[seat] = enmarcado;
 }
 
 } // namespace
@@ -149,6 +160,7 @@ void RotuloMesa(const QString& texto) {
     const int x = CentroMesaX - 150, y = RotuloMesaY();
     BorraZona(x, y, ANCHO_ROTULO, ALTO_ROTULO);
     const QStringList lineas = LineasRotulo(texto);
+    AvisaEscritura(Pic_Mesa.Imagen, QRect(x, y, ANCHO_ROTULO, ALTO_ROTULO));
     QPainter p(&Pic_Mesa.Imagen);
     p.setPen(Qt::white);
     p.drawRect(QRect(x, y, ANCHO_ROTULO - 1, ALTO_ROTULO - 1));
@@ -168,7 +180,7 @@ void SenalaGanador(int seat) {
     if (ModalidadPareja == 2) seats[1] = CompaneroDe[seat];
     for (int vuelta = 1; vuelta <= VueltasAnimacion(4); ++vuelta) {
         for (int s : seats) {
-            if (s == 0) continue;
+            if (s == 0 || !FotogramaVisible()) continue;
             const QPoint lugar = PosicionIcono(s, d);
             Transfiere(Pic_Mesa.Imagen, lugar.x(), lugar.y(), LADO_ICONO, LADO_ICONO,
                        Pic_BmpVario.Imagen, (s - 1) * LADO_ICONO, 0, OpRaster::Copia);
@@ -202,18 +214,27 @@ void DibujaBazas(int seat) {
     } else {
         return;
     }
-    // Black Jack shows no back: its chips stay in the block and the panel lies over them.
-    if (bazas) BorraPila(seat);
-    Pic_Tantos[seat].Visible = false;
-    if (!dorso && numero <= 0) return;
     const bool dePie = OrientacionSeat[seat] == 1 || OrientacionSeat[seat] == 3;
     const int ancho = dePie ? 76 : 107, alto = dePie ? 107 : 76;
     const QRect bloque = BloquePila(seat);
     const int x = bloque.x() + (bloque.width() - ancho) / 2;
     const int y = bloque.y() + (bloque.height() - alto) / 2;
-    if (dorso)
-        Transfiere(Pic_Mesa.Imagen, x, y, ancho, alto, Pic_ReversoRedu[dePie ? 1 : 2].Imagen, 0, 0,
-                   OpRaster::Copia);
+    const QImage& reverso = Pic_ReversoRedu[dePie ? 1 : 2].Imagen;
+    // Black Jack shows no back: its chips stay in the block and the panel lies over them. In the
+    // trick games the block shows the same back for many tricks running.
+    if (bazas) {
+        FirmaParte firma;
+        firma << dorso << x << y << ancho << alto << reverso.cacheKey();
+        const QRect area = AreaBorrado(seat);
+        if (!ParteIntacta(PARTE_BAZAS + seat, firma.Valor)) {
+            BorraPila(seat);
+            if (dorso)
+                Transfiere(Pic_Mesa.Imagen, x, y, ancho, alto, reverso, 0, 0, OpRaster::Copia);
+            AnotaParte(PARTE_BAZAS + seat, area.united(QRect(x, y, ancho, alto)), firma.Valor);
+        }
+    }
+    Pic_Tantos[seat].Visible = false;
+    if (!dorso && numero <= 0) return;
     if (numero > 0) {
         PintaTantos(seat, numero, bazas);
         Pic_Tantos[seat].X = x + (ancho - 44) / 2;

@@ -38,6 +38,7 @@ void MuestraTextoPago() {
     CajaPagoVista = CajaPago(ParejaCobra, LineasPago);
     FondoPago = CopiaLogica(Pic_Mesa.Imagen, CajaPagoVista.x(), CajaPagoVista.y(),
                             CajaPagoVista.width(), CajaPagoVista.height());
+    AvisaEscritura(Pic_Mesa.Imagen, CajaPagoVista);
     QPainter p(&Pic_Mesa.Imagen);
     p.fillRect(CajaPagoVista, QColor(255, 255, 225));
     p.setPen(QColor(60, 40, 0));
@@ -54,6 +55,7 @@ void MuestraTextoPago() {
 
 void BorraTextoPago() {
     if (Pic_Mesa.Imagen.isNull() || FondoPago.isNull()) return;
+    AvisaEscritura(Pic_Mesa.Imagen, CajaPagoVista);
     QPainter p(&Pic_Mesa.Imagen);
     p.drawImage(CajaPagoVista.topLeft(), FondoPago);
     p.end();

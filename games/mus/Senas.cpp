@@ -336,6 +336,10 @@ void DibujaSena(int seat, int codigo) {
         cara.setDevicePixelRatio(EscalaMesa);
     }
     BorraBajoCara(seat, lugar);
+    AvisaEscritura(
+        Pic_Mesa.Imagen,
+        QRect(lugar.topLeft(), QSize(qRound(cara.width() / cara.devicePixelRatio()) + 1,
+                                     qRound(cara.height() / cara.devicePixelRatio()) + 1)));
     QPainter p(&Pic_Mesa.Imagen);
     p.drawImage(lugar.topLeft(), cara);
     p.end();

@@ -91,9 +91,11 @@ void JuegaCarta(int seat, int pos) {
     auto& carta = CartasJugador[seat][SERIE][pos];
     const int palo = carta[CAMPO_PALO], valor = carta[CAMPO_VALOR];
     carta[CAMPO_CARA] = CARA_VISIBLE;
-    DibujaJugador(seat);
-    RefrescaMesa();
-    Pausa(500);
+    if (FotogramaVisible()) {
+        DibujaJugador(seat);
+        RefrescaMesa();
+        Pausa(500);
+    }
     PosicionCarta(seat, pos, NumCartas[seat][SERIE]);
     const int x = CartaX, y = CartaY;
     PonCartaEnBaza(seat, pos);
@@ -172,7 +174,9 @@ void CierraBaza() {
     CodigoJugada = 0;
     OcultaContinuar();
     ResuelveBaza();
-    ParpadeaGanadorBaza();
+    // The winning card blinks; the trick is wiped right after, so automatic play, where
+    // nobody watches, leaves the blink out.
+    if (FotogramaVisible()) ParpadeaGanadorBaza();
     AnotaBaza();
     BorraBaza();
     for (int s = 1; s <= 4; ++s)

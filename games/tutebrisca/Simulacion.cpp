@@ -205,25 +205,27 @@ void BajaRonda(int r, int ganador) {
 // ---- ConsultaSimulacion ----
 
 // Lines won and tantos gained under the first card of the route: the entries on the way down to
-// turn T and all below it. Indices in the middle left at 0 hold nothing, so 0 can join every range.
+// turn T and all below it. Indices in the middle left at 0 hold nothing, so 0 can join every range;
+// no line reaches a position beyond the cards the search laid out.
 void SumaSubarbol(const int ruta[5], int T, long long& ganadas, long long& margen) {
     ganadas = margen = 0;
+    const int ultima = CartasSim < MAX_POS ? CartasSim : MAX_POS;
     int segundo[MAX_POS + 2], tercero[MAX_POS + 2];
     int n2 = 0, n3 = 0;
     segundo[n2++] = 0;
     if (T > 2)
         segundo[n2++] = ruta[2];
     else
-        for (int p = 1; p <= MAX_POS; ++p) segundo[n2++] = p;
+        for (int p = 1; p <= ultima; ++p) segundo[n2++] = p;
     tercero[n3++] = 0;
     if (T > 3)
         tercero[n3++] = ruta[3];
     else
-        for (int p = 1; p <= MAX_POS; ++p) tercero[n3++] = p;
+        for (int p = 1; p <= ultima; ++p) tercero[n3++] = p;
     const int a = ruta[1];
     for (int i2 = 0; i2 < n2; ++i2)
         for (int i3 = 0; i3 < n3; ++i3)
-            for (int d = 0; d <= MAX_POS; ++d) {
+            for (int d = 0; d <= ultima; ++d) {
                 ganadas += GanadasSim[a][segundo[i2]][tercero[i3]][d];
                 margen += MargenSim[a][segundo[i2]][tercero[i3]][d];
             }
