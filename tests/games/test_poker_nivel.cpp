@@ -8,6 +8,7 @@
 #include "frame/TrufalBas.h"
 #include "frame/TrufalGbl.h"
 #include "platform/CajaImagen.h"
+#include "support/ManosPoker.h"
 #include "support/MesaDePrueba.h"
 #include "table/Dibujo.h"
 #include "table/Mensajes.h"
@@ -79,6 +80,7 @@ TEST(PokerNivel, ElNivel100GanaMasFichasQueElNivel0ConLasMismasCartas) {
     const std::vector<double> alto = GananciaPorPartida(NIVEL_ALTO);
     const std::vector<double> bajo = GananciaPorPartida(NIVEL_BAJO);
     PinturaOmitida = false;
+    RecogeMesaDePoker();
     double suma = 0, cuadrados = 0, sumaAlto = 0;
     for (int p = 0; p < PARTIDAS; ++p) {
         const double d = alto[p] - bajo[p];

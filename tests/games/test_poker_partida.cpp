@@ -94,6 +94,7 @@ TEST(PokerPartida, AutomaticMatchesKeepTheMoneyAndEndWithOneSeatHoldingIt) {
             }
         }
     ComprobarCoherencia = antes;
+    RecogeMesaDePoker();
     std::printf("[          ] %d manos, %d sin apuestas\n", manos, redeals);
     EXPECT_GT(redeals, 0) << "some hand was dealt again when nobody could open";
 }
@@ -250,6 +251,7 @@ TEST(PokerPartida, AMatchPostponedMidHandResumesWithEveryChipAsItWas) {
         EXPECT_EQ(guardado, JUGADORES * RESTO) << "semilla " << semilla;
         EXPECT_EQ(retomado, JUGADORES * RESTO) << "semilla " << semilla;
     }
+    RecogeMesaDePoker();
     EXPECT_GT(pagadas, 0) << "a hand before the one left was paid out";
     EXPECT_GT(repartidas, 0) << "a hand before the one left was dealt again";
 }
