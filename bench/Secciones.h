@@ -15,8 +15,9 @@ void BenchTuteBrisca();
 void BenchTuteBriscaManos(int repeticion, bool soloSinPintar = false);
 void BenchPoker();
 void BenchPokerMotor();
-// Chips won a hand by a seat at level 100 against seats at level 0, over that many hands for
-// each character, each seat starting with this money; and what each gate of the level changes.
+// Chips won a hand by a seat at level 100 and, on the same deals, at level 0 and 90, against seats
+// at level 0, over that many hands for each table, each seat starting with this money at the
+// factory's limits; and what each gate of the level changes.
 void BenchPokerNiveles(long manos, int resto);
 void BenchChinchon();
 void BenchMus();

@@ -4,8 +4,9 @@
 //   trufal_bench --firmas     only the signatures, in the form of bench/firmas.txt
 //   trufal_bench --tasas [manos]   only the Black Jack loss rates, over 30,000 hands or those given
 //   trufal_bench --mus        only the figures of the Mus
-//   trufal_bench --niveles [manos] [resto]   only the Póker's level 100 against level 0
-//   trufal_bench --manos [veces]   only the hands a second of Tute and Brisca, over more hands
+//   trufal_bench --niveles [manos] [resto]   only the Póker's level 100 against level 0 and 90
+//   trufal_bench --manos [veces] [sola]   only the hands a second of Tute and Brisca, over more
+//                                         hands; with "sola", only with the table not drawn
 #include <QApplication>
 #include <QTemporaryDir>
 #include <cstdio>
@@ -22,8 +23,8 @@ int main(int argc, char** argv) {
     QTemporaryDir carpeta;
     PreparaMesaAutomatica(carpeta.path());
     if (argc > 1 && std::strcmp(argv[1], "--niveles") == 0) {
-        BenchPokerNiveles(argc > 2 ? std::atol(argv[2]) : 20000,
-                          argc > 3 ? std::atoi(argv[3]) : 1000);
+        BenchPokerNiveles(argc > 2 ? std::atol(argv[2]) : 2000,
+                          argc > 3 ? std::atoi(argv[3]) : 200);
         return 0;
     }
     if (argc > 1 && std::strcmp(argv[1], "--manos") == 0) {

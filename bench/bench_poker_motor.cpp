@@ -93,5 +93,5 @@ void BenchPokerMotor() {
     std::printf("Póker, evaluación de jugadas y jugador del ordenador:\n");
     Enumeracion();
     PeorDecision();
-    BenchPokerNiveles(2000, 1000);
+    BenchPokerNiveles(1000, 200);
 }

@@ -1,12 +1,13 @@
-// Does a Póker seat's level tell at the table? The chips a hand won by a seat at level 100
-// against seats at level 0 of its own character, with their standard error; and, on the same
-// positions of those matches, how often each level gate of the computer player changes what a
-// seat does.
+// Does a Póker seat's level tell at the table? The chips a hand won by a seat at level 100 against
+// seats at level 0 of its own character, and by the same seat at level 0 and at level 90 on the
+// same deals, with the standard error of the difference; and, on the turns of the automatic
+// table, how often each level gate of the computer player changes what a seat does.
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <cstring>
 #include <functional>
+#include <vector>
 
 #include "bench/Secciones.h"
 #include "betting/Fichas.h"
@@ -22,8 +23,12 @@
 
 namespace {
 
-constexpr int NIVEL_ALTO = 100, NIVEL_BAJO = 0;
+constexpr int NIVEL_ALTO = 100, NIVEL_RIVALES = 90, NIVEL_BAJO = 0;
 constexpr int MANOS_POR_PARTIDA = 200; // then the match starts again with fresh money
+constexpr int MAXIMA_FABRICA = 25;
+// The table of the level's test: bold seats and big stakes, where the folds that read the
+// rivals' cards tell.
+constexpr int MAXIMA_PRUEBA = 100, RESTO_PRUEBA = 995;
 constexpr int SERIE = 1;
 
 // A mean and its standard error, from running sums.
@@ -193,67 +198,77 @@ void CuentaCambios(Cambios (&porCaracter)[4]) {
 
 // ---- The chips that the level wins ----
 
-struct Resultado {
-    Media PorMano;
-    int Partidas = 0, GanadasAlto = 0, Acabadas = 0;
+// A table to measure the level at: its seats, their character, the hand's limit and the money.
+struct MesaNivel {
+    int Jugadores, Caracter, Maxima, Resto;
 };
 
-// Chips a hand won by the seat at level `alto` against the others at `bajo`, every seat of one
-// character, over `manos` hands; each match starts again with `resto` for each seat after
-// MANOS_POR_PARTIDA hands, and the high seat changes places from one match to the next. A
+constexpr int MANOS_POR_PARTIDA_NIVEL = 25; // short matches: the unit of the standard error
+
+// The chips a hand won in each match by the seat under test at `nivel`, the others at level 0,
+// over as many matches of MANOS_POR_PARTIDA_NIVEL hands as make `manos`; the seat changes place
+// from one match to the next. After each showdown the stream is seeded from the match and the
+// hand, so that runs at two levels deal the same cards and only the seat's decisions differ. A
 // match that ends early, one seat holding all the money, counts whole.
-Resultado Ganancias(int jugadores, int caracter, int alto, int bajo, long manos, int resto) {
-    Resultado r;
-    long jugadas = 0;
-    for (unsigned partida = 0; jugadas < manos; ++partida) {
-        const int asientoAlto = int(partida % jugadores) + 1;
-        PreparaPartidaAutomatica({JUEGO_POKER, jugadores, false, [&] {
-                                      RestoInicial = resto;
+std::vector<double> GananciasPorPartida(const MesaNivel& mesa, int nivel, long manos) {
+    std::vector<double> porPartida;
+    const long partidas = std::max(2L, manos / MANOS_POR_PARTIDA_NIVEL);
+    for (long partida = 0; partida < partidas; ++partida) {
+        const int asiento = int(partida % mesa.Jugadores) + 1;
+        PreparaPartidaAutomatica({JUEGO_POKER, mesa.Jugadores, false, [&] {
+                                      RestoInicial = mesa.Resto;
+                                      ApuestaMaxima = mesa.Maxima;
                                       for (int s = 1; s <= 4; ++s) {
-                                          NivelJugador[s] = s == asientoAlto ? alto : bajo;
-                                          CaracterJugador[s] = caracter;
+                                          NivelJugador[s] = s == asiento ? nivel : NIVEL_BAJO;
+                                          CaracterJugador[s] = mesa.Caracter;
                                       }
                                   }});
-        int antes = resto, manoVista = 0, enPartida = 0;
-        bool cortada = false;
-        JuegaConGuion(1000 * caracter + partida + 1, [&] {
+        int manoVista = 0, jugadas = 0, ahora = mesa.Resto;
+        const unsigned semilla = 1000u * mesa.Caracter + unsigned(partida) + 1;
+        JuegaConGuion(semilla, [&] {
             if (FaseJuego != FASE_FIN_MANO || ManoViva || NumeroMano == manoVista) return;
             // The showdown, its shares worked out and not yet paid.
             manoVista = NumeroMano;
-            const int ahora = RestoJugador(asientoAlto) + Ganancia[asientoAlto];
-            r.PorMano.Anota(ahora - antes);
-            antes = ahora;
-            ++jugadas;
-            if (++enPartida >= MANOS_POR_PARTIDA || jugadas >= manos) {
-                cortada = true;
-                PartidaViva = false;
-            }
+            ahora = RestoJugador(asiento) + Ganancia[asiento];
+            RandomizaCon(semilla * 1000u + unsigned(++jugadas));
+            if (jugadas >= MANOS_POR_PARTIDA_NIVEL) PartidaViva = false;
         });
-        ++r.Partidas;
-        if (!cortada) {
-            // The match ended by itself: one seat holds the money.
-            ++r.Acabadas;
-            if (GanadorPartida == asientoAlto) ++r.GanadasAlto;
-        }
+        porPartida.push_back(double(ahora - mesa.Resto) / MANOS_POR_PARTIDA_NIVEL);
     }
-    return r;
+    return porPartida;
 }
 
-void ImprimeGanancias(const char* titulo, int jugadores, int alto, int bajo, long manos,
-                      int resto) {
-    std::printf("  %s\n", titulo);
-    for (int caracter = 1; caracter <= 3; ++caracter) {
-        const Resultado r = Ganancias(jugadores, caracter, alto, bajo, manos, resto);
-        const double e = r.PorMano.Error();
-        std::printf("    carácter %d: %+6.3f ± %.3f fichas por mano (%.1f errores), %lld manos",
-                    caracter, r.PorMano.Valor(), e, e > 0 ? r.PorMano.Valor() / e : 0.0,
-                    r.PorMano.N);
-        if (r.Acabadas > 0)
-            std::printf(", %d partidas acabadas antes, %d ganadas por el nivel %d", r.Acabadas,
-                        r.GanadasAlto, alto);
-        std::printf("\n");
-        std::fflush(stdout);
-    }
+Media MediaDe(const std::vector<double>& x) {
+    Media m;
+    for (double v : x) m.Anota(v);
+    return m;
+}
+
+// The difference a hand between two runs of the same matches, with its standard error.
+Media Diferencia(const std::vector<double>& a, const std::vector<double>& b) {
+    Media m;
+    for (size_t i = 0; i < a.size(); ++i) m.Anota(a[i] - b[i]);
+    return m;
+}
+
+void ImprimeDiferencia(const char* titulo, const Media& d) {
+    const double e = d.Error();
+    std::printf(" %s %+7.3f ± %.3f (%.1f errores)", titulo, d.Valor(), e,
+                e > 0 ? d.Valor() / e : 0.0);
+}
+
+// Level 100 and level 0 on the same deals, and level 100 against level 90: the rivals' cards.
+void ImprimeMesa(const MesaNivel& mesa, long manos, bool contra90) {
+    const auto alto = GananciasPorPartida(mesa, NIVEL_ALTO, manos);
+    const auto bajo = GananciasPorPartida(mesa, NIVEL_BAJO, manos);
+    std::printf("    %d asientos, carácter %d: nivel 100 %+6.3f, nivel 0 %+6.3f;", mesa.Jugadores,
+                mesa.Caracter, MediaDe(alto).Valor(), MediaDe(bajo).Valor());
+    ImprimeDiferencia("diferencia", Diferencia(alto, bajo));
+    if (contra90)
+        ImprimeDiferencia("; contra nivel 90",
+                          Diferencia(alto, GananciasPorPartida(mesa, NIVEL_RIVALES, manos)));
+    std::printf("\n");
+    std::fflush(stdout);
 }
 
 // The gates looked at on every computer turn of matches at the usual automatic table: four seats
@@ -298,19 +313,21 @@ void ImprimePuertas(const Cambios (&cambios)[4]) {
 } // namespace
 
 void BenchPokerNiveles(long manos, int resto) {
-    std::printf("Póker, fichas ganadas por mano por un asiento de nivel alto contra asientos de "
-                "nivel bajo del mismo carácter\n(partidas de %d manos como mucho, %d fichas cada "
-                "asiento al empezar, apuesta máxima 25):\n",
-                MANOS_POR_PARTIDA, resto);
+    std::printf("Póker, fichas ganadas por mano por un asiento de nivel 100 y, en las mismas "
+                "partidas y con las\nmismas cartas, por el mismo asiento a nivel 0 (y a nivel "
+                "90: solo le falta leer las cartas de los\nrivales); los demás asientos a nivel 0 "
+                "y del mismo carácter; %ld manos en partidas de %d:\n",
+                manos, MANOS_POR_PARTIDA_NIVEL);
     // Nothing of these matches is looked at: the table isn't drawn, which keeps them quick.
     const bool pintura = PinturaOmitida;
     PinturaOmitida = true;
-    ImprimeGanancias("Nivel 100 contra nivel 0, dos asientos:", 2, NIVEL_ALTO, NIVEL_BAJO, manos,
-                     resto);
-    ImprimeGanancias("Nivel 100 contra nivel 0, cuatro asientos:", 4, NIVEL_ALTO, NIVEL_BAJO, manos,
-                     resto);
-    ImprimeGanancias("Nivel 100 contra nivel 90, dos asientos (las cartas de los rivales):", 2,
-                     NIVEL_ALTO, 90, manos, resto);
+    std::printf("  Mesa de fábrica: apuesta de salida 5, apuesta máxima 25, %d fichas:\n", resto);
+    for (int jugadores : {2, 4})
+        for (int caracter = 1; caracter <= 3; ++caracter)
+            ImprimeMesa({jugadores, caracter, MAXIMA_FABRICA, resto}, manos, true);
+    std::printf("  Mesa de la prueba: cuatro asientos agresivos, apuesta máxima %d, %d fichas:\n",
+                MAXIMA_PRUEBA, RESTO_PRUEBA);
+    ImprimeMesa({4, 3, MAXIMA_PRUEBA, RESTO_PRUEBA}, manos, true);
     Cambios cambios[4];
     CuentaPuertas(manos, resto, cambios);
     PinturaOmitida = pintura;

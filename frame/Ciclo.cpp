@@ -545,6 +545,12 @@ void EmpiezaManoApuestas() {
         BorraVentana();
         for (int s = 1; s <= 4; ++s)
             if (RestoJugador(s) > 0) DibujaPilas(s);
+        // An empty pot starts the stakes afresh. Only then is the money noted: the stakes of a
+        // hand already paid out must not come back into the pot when the hand is given up.
+        if (BoteVacio())
+            for (auto& s : Apuesta)
+                for (auto& e : s)
+                    for (auto& f : e) f = 0;
         AnotaDineroInicial();
         // Paso 2. Who plays: in Póker and Siete y media, only seats with money.
         if (JuegoActual == JUEGO_POKER || JuegoActual == JUEGO_SIETEYMEDIA) {
@@ -560,10 +566,6 @@ void EmpiezaManoApuestas() {
                 if (JuegaMano[s]) ++JugadoresMano;
             }
         }
-        if (BoteVacio())
-            for (auto& s : Apuesta)
-                for (auto& e : s)
-                    for (auto& f : e) f = 0;
         // Against a bank every stake was settled at the last payment: nothing stays in front.
         if (ContraBanca())
             for (int s = 0; s <= 4; ++s)
@@ -571,7 +573,7 @@ void EmpiezaManoApuestas() {
                     for (int& f : HistorialFichas[s][e]) f = 0;
                     NumHistorial[s][e] = 0;
                 }
-        // Paso 3. An empty pot starts the stakes afresh; the lead moves on, or is chosen.
+        // Paso 3. The lead moves on, or is chosen.
         BorraCartasMano();
         if (JuegoActual == JUEGO_SIETEYMEDIA && TurnoSalida == 1) {
             // The bank passes to the seat that sang siete y media, or that took it from a

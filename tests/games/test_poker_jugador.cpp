@@ -34,6 +34,7 @@ void PonMesa(int fase, const Asiento (&asientos)[5], double azar, int comodines 
     LimiteDescartes = 5;
     std::memset(Apuesta, 0, sizeof Apuesta);
     FaseJuego = fase;
+    SerieActual = 1; // a game of series, played before, may have left another
     AzarJugada = azar;
     JugadorActual = 4;
     ApuestaMaxRonda = 0;

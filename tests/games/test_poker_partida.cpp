@@ -9,6 +9,7 @@
 #include "frame/Ciclo.h"
 #include "frame/TrufalBas.h"
 #include "frame/TrufalGbl.h"
+#include "frame/Ficheros.h"
 #include "table/Dibujo.h"
 #include "games/poker/MesaPoker.h"
 #include "support/ManosPoker.h"
@@ -93,6 +94,7 @@ TEST(PokerPartida, AutomaticMatchesKeepTheMoneyAndEndWithOneSeatHoldingIt) {
             }
         }
     ComprobarCoherencia = antes;
+    RecogeMesaDePoker();
     std::printf("[          ] %d manos, %d sin apuestas\n", manos, redeals);
     EXPECT_GT(redeals, 0) << "some hand was dealt again when nobody could open";
 }
@@ -202,4 +204,54 @@ TEST(PokerPartida, TheCallButtonStakesTheDifferenceOrNothing) {
             << c.rotulo;
         EsperandoPersona = false;
     }
+}
+
+// A match left in the first round of a hand and taken up again from its file: the money goes
+// back as it stood when the hand began, with the pot of a hand dealt again and without the pot of
+// a hand already paid out, and the match resumes with every chip of it on the table.
+TEST(PokerPartida, AMatchPostponedMidHandResumesWithEveryChipAsItWas) {
+    MesaDePrueba mesa;
+    PreparaMesaAutomatica(mesa.Carpeta.path());
+    constexpr int RESTO = 200, JUGADORES = 4, MANO = 3;
+    const auto dineroEnMesa = [] {
+        int dinero = ValorBote();
+        for (int s = 1; s <= 4; ++s) dinero += RestoJugador(s);
+        return dinero;
+    };
+    int pagadas = 0, repartidas = 0;
+    for (unsigned semilla = 1; semilla <= 4; ++semilla) {
+        PreparaPartidaAutomatica({JUEGO_POKER, JUGADORES, false, [] {
+                                      RestoInicial = RESTO;
+                                      ContinuarManual = true; // each computer turn waits
+                                  }});
+        PausasACero = VuelosOmitidos = true;
+        SemillaFija = semilla;
+        int guardado = -1, retomado = -1;
+        PersonaGuionada = [&] {
+            EsperandoPersona = false;
+            if (NumeroMano != MANO || FaseJuego != FASE_POKER_APUESTA1) return;
+            if (guardado < 0) {
+                (RegistroManos[MANO - 1].Banca > 0 ? pagadas : repartidas)++;
+                PreparaPosponer();
+                guardado = dineroEnMesa();
+                GrabaJuego();
+            } else {
+                retomado = dineroEnMesa();
+            }
+            PartidaViva = false;
+        };
+        RespuestasGuionadas.assign(8, false);
+        NuevaPartida();
+        PartidaViva = false;
+        AbreJuego();
+        PersonaGuionada = nullptr;
+        RespuestasGuionadas.clear();
+        SemillaFija = 0;
+        PausasACero = VuelosOmitidos = false;
+        EXPECT_EQ(guardado, JUGADORES * RESTO) << "semilla " << semilla;
+        EXPECT_EQ(retomado, JUGADORES * RESTO) << "semilla " << semilla;
+    }
+    RecogeMesaDePoker();
+    EXPECT_GT(pagadas, 0) << "a hand before the one left was paid out";
+    EXPECT_GT(repartidas, 0) << "a hand before the one left was dealt again";
 }

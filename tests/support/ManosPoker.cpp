@@ -1,5 +1,7 @@
 #include "support/ManosPoker.h"
 
+#include "frame/Ciclo.h"
+#include "frame/Ficheros.h"
 #include "frame/TrufalGbl.h"
 #include "games/poker/Evaluacion.h"
 
@@ -26,4 +28,14 @@ void PonMano(int seat, const std::string& texto) {
         CartasJugador[seat][1][pos][CAMPO_CARA] = CARA_VISIBLE;
     }
     NumCartas[seat][1] = pos;
+}
+
+void RecogeMesaDePoker() {
+    JuegoActual = JUEGO_POKER;
+    PonJuegoPorDefecto();
+    BorraTablasMano();
+    CartasEnPozo = CartasEnMazo = 0;
+    PosicionMazo = 1;
+    // A match cut in a betting round leaves the chips of the seat on turn live.
+    FichasActivas = false;
 }
