@@ -6,6 +6,7 @@
 #include "frame/Baraja.h"
 #include "frame/Ciclo.h"
 #include "frame/Coherencia.h"
+#include "frame/Ficheros.h"
 #include "frame/TrufalBas.h"
 #include "frame/TrufalGbl.h"
 #include "games/sieteymedia/EstadisSiete.h"
@@ -338,4 +339,51 @@ TEST(SieteYMedia, StackedHandsArePaidAsTheRulesSay) {
         const int pedidas = int(std::count(m.Punto.begin(), m.Punto.end(), 'C'));
         EXPECT_EQ(NumCartas[banca][1], int(m.Cartas.size()) - 1 - pedidas) << "caso " << caso;
     }
+}
+
+// A match left at the end of a hand whose bank was to pass, and taken up again in the same run
+// (after a look at another game, say), plays that hand again with the bank and the money it
+// started with.
+TEST(SieteYMedia, AMatchTakenUpAgainReplaysTheHandWithItsBankAndMoney) {
+    MesaDePrueba mesa;
+    PreparaMesaAutomatica(mesa.Carpeta.path());
+    PinturaOmitida = true;
+    int reanudadas = 0;
+    for (unsigned semilla = 1; semilla <= 6; ++semilla) {
+        PreparaPartidaAutomatica({JUEGO_SIETEYMEDIA, 4, false, [] { RestoInicial = 40; }});
+        PausasACero = VuelosOmitidos = true;
+        SemillaFija = semilla;
+        int mano = 0, banca = 0, dinero[5] = {};
+        PersonaGuionada = [&] {
+            EsperandoPersona = false;
+            if (FaseJuego != FASE_FIN_MANO || !CambiaBanca) return;
+            mano = NumeroMano;
+            banca = JugadorBanca;
+            std::copy(RestoAlEmpezar, RestoAlEmpezar + 5, dinero);
+            PreparaPosponer();
+            GrabaJuego();
+            PartidaViva = false;
+        };
+        NuevaPartida();
+        if (mano == 0) continue;
+        int manoOtraVez = 0, bancaOtraVez = 0, dineroOtraVez[5] = {};
+        PersonaGuionada = [&] {
+            EsperandoPersona = false;
+            // The first wait of a table of computer seats is the end of the hand played again.
+            manoOtraVez = NumeroMano;
+            bancaOtraVez = JugadorBanca;
+            std::copy(RestoAlEmpezar, RestoAlEmpezar + 5, dineroOtraVez);
+            PartidaViva = false;
+        };
+        AbreJuego();
+        PersonaGuionada = nullptr;
+        ++reanudadas;
+        EXPECT_EQ(manoOtraVez, mano) << "semilla " << semilla;
+        EXPECT_EQ(bancaOtraVez, banca) << "semilla " << semilla;
+        for (int s = 1; s <= 4; ++s)
+            EXPECT_EQ(dineroOtraVez[s], dinero[s]) << "semilla " << semilla << " seat " << s;
+    }
+    PinturaOmitida = PausasACero = VuelosOmitidos = false;
+    SemillaFija = 0;
+    EXPECT_GE(reanudadas, 3);
 }
