@@ -67,7 +67,20 @@ TEST(SieteYMedia, TheBankPassesOnlyWhenTheTableSaysWhy) {
         PausasACero = VuelosOmitidos = true;
         SemillaFija = semilla;
         MensajesVistos.clear();
-        PersonaGuionada = [] { EsperandoPersona = false; };
+        // The banker deals: the stock lies nearer its cards than any other seat's.
+        PersonaGuionada = [&] {
+            EsperandoPersona = false;
+            if (FaseJuego != FASE_FIN_MANO) return;
+            const QPoint mazo(MazoX + 50, MazoY + 70);
+            int cerca = 0, menor = 1 << 30;
+            for (int s = 1; s <= 4; ++s) {
+                const QPoint zona((ZonaIzquierda[s] + ZonaDerecha[s]) / 2,
+                                  (ZonaArriba[s] + ZonaAbajo[s]) / 2);
+                const int d = (zona - mazo).manhattanLength();
+                if (d < menor) menor = d, cerca = s;
+            }
+            EXPECT_EQ(cerca, JugadorBanca) << "semilla " << semilla << " mano " << NumeroMano;
+        };
         RespuestasGuionadas.assign(4, false);
         NuevaPartida();
         PersonaGuionada = nullptr;
