@@ -372,3 +372,46 @@ TEST(BlackJack, LossRateAtLevel100MatchesAnIndependentSimulation) {
     EXPECT_NEAR(tasa, esperada, 4 * std::hypot(error, errorSim));
     EXPECT_GT(VecesBarajado - barajadasAntes, 300);
 }
+
+// Whole seeded matches on little money end at the first hand after which the bank, or every seat
+// that plays against it, is broke, and say which.
+TEST(BlackJack, AMatchEndsWhenTheBankOrEveryPlayerIsBroke) {
+    MesaDePrueba mesa;
+    PreparaMesaAutomatica(mesa.Carpeta.path());
+    PinturaOmitida = true;
+    int bancaRota = 0, jugadoresRotos = 0;
+    for (unsigned semilla = 1; semilla <= 40; ++semilla) {
+        PreparaPartidaAutomatica({JUEGO_BLACKJACK, 4, false, [] { RestoInicial = 30; }});
+        PausasACero = VuelosOmitidos = true;
+        SemillaFija = semilla;
+        MensajesVistos.clear();
+        int manoRota = 0;
+        PersonaGuionada = [&] {
+            EsperandoPersona = false;
+            if (FaseJuego != FASE_FIN_MANO || manoRota != 0) return;
+            bool quedan = false;
+            for (int s : {1, 3, 4}) quedan = quedan || RestoJugador(s) > 0;
+            if (RestoJugador(2) < 1 || !quedan) manoRota = NumeroMano;
+        };
+        RespuestasGuionadas.assign(4, false);
+        NuevaPartida();
+        PersonaGuionada = nullptr;
+        ASSERT_NE(manoRota, 0) << "semilla " << semilla;
+        EXPECT_EQ(NumeroMano, manoRota) << "semilla " << semilla;
+        std::vector<QString> finales;
+        for (const auto& m : MensajesVistos)
+            if (m.Titulo == "Final de Partida") finales.push_back(m.Texto);
+        ASSERT_EQ(finales.size(), 1u) << "semilla " << semilla;
+        if (RestoJugador(2) < 1) {
+            ++bancaRota;
+            EXPECT_EQ(finales[0], "La banca se ha quedado sin fondos");
+        } else {
+            ++jugadoresRotos;
+            EXPECT_EQ(finales[0], "Todos los jugadores se han quedado sin fondos");
+        }
+    }
+    PinturaOmitida = PausasACero = VuelosOmitidos = false;
+    SemillaFija = 0;
+    EXPECT_GT(bancaRota, 0);
+    EXPECT_GT(jugadoresRotos, 0);
+}
