@@ -79,6 +79,8 @@ struct ManoGuionada {
     int Gana;              // what the person ends the hand with, minus what it started with
     int Series;            // the series it ended with
     const char* Resultado; // the line of the end of the hand that must be there, "" none
+    // The person's record of the hand: the two columns of Resultado, then those of Detalle.
+    const char* Registro = "";
 };
 
 int JuegaManoGuionada(const ManoGuionada& m) {
@@ -136,7 +138,13 @@ TEST(BlackJack, StackedHandsArePaidAsTheRulesSay) {
     PreparaMesaAutomatica(mesa.Carpeta.path());
     const ManoGuionada casos[] = {
         // Black Jack against a 9 that ends on 17: 3 to 2, the half dropped.
-        {{1, 9, 13, 8}, "", 15, 1, "Jugador4 : Black Jack"},
+        {{1, 9, 13, 8},
+         "",
+         15,
+         1,
+         "Jugador4 : Black Jack",
+         "Black J        "
+         "               "},
         // Both with Black Jack: the stake comes back.
         {{1, 1, 13, 13}, "", 0, 1, "Banca : Black Jack"},
         // Insurance of 5 won against the bank's Black Jack, the stake lost: even.
@@ -151,13 +159,26 @@ TEST(BlackJack, StackedHandsArePaidAsTheRulesSay) {
         {{10, 10, 8, 8}, "P", 0, 1, ""},
         // 21 of three cards loses to the bank's Black Jack.
         {{7, 10, 7, 7, 1}, "C", -10, 1, "Jugador4 : 21"},
-        // Eights split into four series against a 6; the bank busts and pays each.
-        {{8, 6, 8, 8, 8, 8, 10, 10, 2, 10, 10}, "AAAPPPP", 40, 4, "Jugador4 / 4 : 10"},
+        // Eights split into four series against a 6, the first keeping a fourth pair that can
+        // no longer be opened; the bank busts and pays each.
+        {{8, 6, 8, 8, 8, 8, 10, 10, 2, 10, 10},
+         "AAAPPPP",
+         40,
+         4,
+         "Jugador4 / 4 : 10",
+         "16     18      "
+         "18     10      "},
         // Eights insured, then split: each series takes an insurance of 5 won against the
         // bank's Black Jack, and loses its stake.
         {{8, 1, 8, 10, 10, 13}, "SAPP", 0, 2, "Banca : Black Jack"},
         // Split aces: one card each; 21 on a split pays even money, 16 loses to 17.
-        {{1, 9, 1, 13, 5, 8}, "A", 0, 2, "Jugador4 / 1 : 21"},
+        {{1, 9, 1, 13, 5, 8},
+         "A",
+         0,
+         2,
+         "Jugador4 / 1 : 21",
+         "21     16      "
+         "               "},
     };
     int caso = 0;
     for (const auto& m : casos) {
@@ -165,6 +186,11 @@ TEST(BlackJack, StackedHandsArePaidAsTheRulesSay) {
         EXPECT_EQ(JuegaManoGuionada(m), m.Gana) << "caso " << caso;
         EXPECT_EQ(RestoJugador(2), 2 * 200 - RestoJugador(4)) << "caso " << caso;
         EXPECT_EQ(SeriesJugador[4], m.Series) << "caso " << caso;
+        const RegistroMano& r = RegistroManos[1];
+        EXPECT_EQ(r.Banca, -m.Gana) << "caso " << caso;
+        EXPECT_EQ(r.Extra[4], m.Series) << "caso " << caso;
+        if (*m.Registro != 0)
+            EXPECT_EQ((r.Resultado[4] + r.Detalle[4]).toStdString(), m.Registro) << "caso " << caso;
         if (*m.Resultado == 0) continue;
         bool visto = false;
         for (const auto& v : MensajesVistos)

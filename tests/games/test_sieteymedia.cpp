@@ -256,6 +256,8 @@ struct ManoGuionada {
     std::string Punto, Banca;
     int Gana;         // the punter's money after the hand, less before
     bool TomaLaBanca; // the punter holds the bank in the next hand
+    // The punter's record of the hand, the first column of its Resultado, "" unchecked.
+    const char* Registro = "";
 };
 
 int JuegaManoGuionada(const ManoGuionada& m, int& punto) {
@@ -323,15 +325,15 @@ TEST(SieteYMedia, StackedHandsArePaidAsTheRulesSay) {
         // 7 covered and a media: siete y media still covered is paid like any total.
         {{7, 5, 10, 2}, "CP", "CP", 10, false},
         // The same turned up is sung: paid double, and the punter takes the bank.
-        {{7, 5, 10, 2}, "CV", "CP", 20, true},
+        {{7, 5, 10, 2}, "CV", "CP", 20, true, "7 y 1/2"},
         // A bank with siete y media wins the tie and keeps the bank.
         {{7, 1, 10, 11, 6}, "CV", "CCP", -10, false},
         // 6 and 2: the punter busts; the bank has nobody to play against and draws nothing.
-        {{6, 3, 2}, "C", "", -10, false},
+        {{6, 3, 2}, "C", "", -10, false, "Se pasó"},
         // 5 stands; the bank's 4 and 7 bust.
-        {{5, 4, 7}, "P", "CP", 10, false},
+        {{5, 4, 7}, "P", "CP", 10, false, "5"},
         // Six and a half each: the tie goes to the bank.
-        {{6, 6, 12, 11}, "CP", "CP", -10, false},
+        {{6, 6, 12, 11}, "CP", "CP", -10, false, "6 y 1/2"},
         // 3 against the bank's 5.
         {{3, 2, 3}, "P", "CP", -10, false},
         // The 2 turned up, the 5 after it comes covered: the media makes a siete y media that
@@ -348,6 +350,12 @@ TEST(SieteYMedia, StackedHandsArePaidAsTheRulesSay) {
         const int banca = 6 - punto;
         EXPECT_EQ(RestoJugador(banca), 2 * 100 - RestoJugador(punto)) << "caso " << caso;
         EXPECT_EQ(CambiaBanca && NuevaBanca == punto, m.TomaLaBanca) << "caso " << caso;
+        const RegistroMano& r = RegistroManos[1];
+        EXPECT_EQ(r.Banca, -m.Gana) << "caso " << caso;
+        if (*m.Registro != 0)
+            EXPECT_EQ(r.Resultado[punto],
+                      QString::fromUtf8(m.Registro).leftJustified(7) + QString(8, ' '))
+                << "caso " << caso;
         // The bank took the cards the punter didn't: none when the punter had bust.
         const int pedidas = int(std::count(m.Punto.begin(), m.Punto.end(), 'C'));
         EXPECT_EQ(NumCartas[banca][1], int(m.Cartas.size()) - 1 - pedidas) << "caso " << caso;
