@@ -24,6 +24,8 @@ void BenchMus();
 void BenchCinquillo();
 void BenchPumba();
 void BenchBlackJack();
+// Only the automatic hands per second of Black Jack, without the loss rates.
+void BenchBlackJackManos();
 void BenchSieteYMedia();
 // The loss rates of the Black Jack seats alone, over that many hands at each level.
 void BenchBlackJackTasas(long long manos);

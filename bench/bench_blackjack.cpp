@@ -68,7 +68,7 @@ void BenchBlackJackTasas(long long manos) {
     }
 }
 
-void BenchBlackJack() {
+void BenchBlackJackManos() {
     std::printf("Black Jack, manos automáticas por segundo con la mesa pintada y con el juego "
                 "solo:\n");
     const MesaAutomatica mesa{JUEGO_BLACKJACK, 4, false, nullptr};
@@ -77,5 +77,9 @@ void BenchBlackJack() {
     const double sola = ManosPorSegundo(mesa, 2000);
     PinturaOmitida = false;
     std::printf("  Black Jack: %8.1f %8.1f\n", pintada, sola);
+}
+
+void BenchBlackJack() {
+    BenchBlackJackManos();
     BenchBlackJackTasas(1000000);
 }

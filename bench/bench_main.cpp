@@ -4,6 +4,7 @@
 //   trufal_bench --firmas     only the signatures, in the form of bench/firmas.txt
 //   trufal_bench --tasas [manos]   only the Black Jack loss rates, over 30,000 hands or those given
 //   trufal_bench --mus        only the figures of the Mus
+//   trufal_bench --banca      only the automatic hands per second of Black Jack and Siete y media
 //   trufal_bench --niveles [manos] [resto]   only the Póker's level 100 against level 0 and 90
 //   trufal_bench --manos [veces] [sola]   only the hands a second of Tute and Brisca, over more
 //                                         hands; with "sola", only with the table not drawn
@@ -30,6 +31,11 @@ int main(int argc, char** argv) {
     if (argc > 1 && std::strcmp(argv[1], "--manos") == 0) {
         BenchTuteBriscaManos(argc > 2 ? std::atoi(argv[2]) : 1,
                              argc > 3 && std::strcmp(argv[3], "sola") == 0);
+        return 0;
+    }
+    if (argc > 1 && std::strcmp(argv[1], "--banca") == 0) {
+        BenchBlackJackManos();
+        BenchSieteYMedia();
         return 0;
     }
     if (argc > 1 && std::strcmp(argv[1], "--mus") == 0) {

@@ -595,6 +595,12 @@ void EmpiezaManoApuestas() {
                 if (!PartidaViva) return;
             }
         }
+        // In the Siete y media the banker deals: the stock lies beside it.
+        if (JuegoActual == JUEGO_SIETEYMEDIA) {
+            ColocaMazo();
+            MazoX = MazoBaseX;
+            MazoY = MazoBaseY;
+        }
         // Paso 4. Each seat with money puts in the entry stake, in Póker only.
         FaseJuego = 2;
         int seat = JugadorMano;

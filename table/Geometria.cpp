@@ -95,15 +95,17 @@ void ColocaPilas() {
     const int bloqueY[5] = {0, ZonaAbajo[1] + 10, 0, ZonaArriba[3] - 86, AltoVentana - 140};
     for (int s = 1; s <= 4; ++s) ColocaBloque(s, bloqueX[s], bloqueY[s], OrientacionSeat[s]);
 
-    // The stake lies between the seat's cards and the middle, to the seat's right hand.
-    PilaX[11][1] = ZonaDerecha[1] + 5;
+    // The stake lies between the seat's cards and the middle, to the seat's right hand, beyond
+    // the row of the seat's action buttons, so that neither hides the other.
+    constexpr int FILA_PULSADORES = 30;
+    PilaX[11][1] = ZonaDerecha[1] + 5 + FILA_PULSADORES;
     PilaY[11][1] = CentroMesaY + 60;
     PilaX[12][1] = CentroMesaX - 93;
-    PilaY[12][1] = ZonaAbajo[2] + 5;
-    PilaX[13][1] = ZonaIzquierda[3] - 38;
+    PilaY[12][1] = ZonaAbajo[2] + 5 + FILA_PULSADORES;
+    PilaX[13][1] = ZonaIzquierda[3] - 38 - FILA_PULSADORES;
     PilaY[13][1] = CentroMesaY - 93;
     PilaX[14][1] = CentroMesaX + 60;
-    PilaY[14][1] = ZonaArriba[4] - 38;
+    PilaY[14][1] = ZonaArriba[4] - 38 - FILA_PULSADORES;
 
     // The frames of the stones of Mus take the places of the chip blocks.
     PilaX[21][1] = bloqueX[1];

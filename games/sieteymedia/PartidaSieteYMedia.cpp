@@ -433,7 +433,10 @@ void CambiaCuatro(int seat) {
 }
 
 void JuegaSieteYMedia() {
-    if (NumeroMano == 0) CambiaBanca = false; // a new match: its first bank was drawn
+    // The bank of the hand about to start is the one the match holds: the draw's in a new
+    // match, the saved one in a match taken up again, whose hand starts over. A change named at
+    // the end of a hand that was left is not carried into it.
+    CambiaBanca = false;
     LimpiaMesaBanca();
     AnotaDineroPartida();
     while (PartidaViva) {

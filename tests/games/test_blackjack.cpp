@@ -79,6 +79,8 @@ struct ManoGuionada {
     int Gana;              // what the person ends the hand with, minus what it started with
     int Series;            // the series it ended with
     const char* Resultado; // the line of the end of the hand that must be there, "" none
+    // The person's record of the hand: the two columns of Resultado, then those of Detalle.
+    const char* Registro = "";
 };
 
 int JuegaManoGuionada(const ManoGuionada& m) {
@@ -136,7 +138,13 @@ TEST(BlackJack, StackedHandsArePaidAsTheRulesSay) {
     PreparaMesaAutomatica(mesa.Carpeta.path());
     const ManoGuionada casos[] = {
         // Black Jack against a 9 that ends on 17: 3 to 2, the half dropped.
-        {{1, 9, 13, 8}, "", 15, 1, "Jugador4 : Black Jack"},
+        {{1, 9, 13, 8},
+         "",
+         15,
+         1,
+         "Jugador4 : Black Jack",
+         "Black J        "
+         "               "},
         // Both with Black Jack: the stake comes back.
         {{1, 1, 13, 13}, "", 0, 1, "Banca : Black Jack"},
         // Insurance of 5 won against the bank's Black Jack, the stake lost: even.
@@ -151,13 +159,26 @@ TEST(BlackJack, StackedHandsArePaidAsTheRulesSay) {
         {{10, 10, 8, 8}, "P", 0, 1, ""},
         // 21 of three cards loses to the bank's Black Jack.
         {{7, 10, 7, 7, 1}, "C", -10, 1, "Jugador4 : 21"},
-        // Eights split into four series against a 6; the bank busts and pays each.
-        {{8, 6, 8, 8, 8, 8, 10, 10, 2, 10, 10}, "AAAPPPP", 40, 4, "Jugador4 / 4 : 10"},
+        // Eights split into four series against a 6, the first keeping a fourth pair that can
+        // no longer be opened; the bank busts and pays each.
+        {{8, 6, 8, 8, 8, 8, 10, 10, 2, 10, 10},
+         "AAAPPPP",
+         40,
+         4,
+         "Jugador4 / 4 : 10",
+         "16     18      "
+         "18     10      "},
         // Eights insured, then split: each series takes an insurance of 5 won against the
         // bank's Black Jack, and loses its stake.
         {{8, 1, 8, 10, 10, 13}, "SAPP", 0, 2, "Banca : Black Jack"},
         // Split aces: one card each; 21 on a split pays even money, 16 loses to 17.
-        {{1, 9, 1, 13, 5, 8}, "A", 0, 2, "Jugador4 / 1 : 21"},
+        {{1, 9, 1, 13, 5, 8},
+         "A",
+         0,
+         2,
+         "Jugador4 / 1 : 21",
+         "21     16      "
+         "               "},
     };
     int caso = 0;
     for (const auto& m : casos) {
@@ -165,6 +186,11 @@ TEST(BlackJack, StackedHandsArePaidAsTheRulesSay) {
         EXPECT_EQ(JuegaManoGuionada(m), m.Gana) << "caso " << caso;
         EXPECT_EQ(RestoJugador(2), 2 * 200 - RestoJugador(4)) << "caso " << caso;
         EXPECT_EQ(SeriesJugador[4], m.Series) << "caso " << caso;
+        const RegistroMano& r = RegistroManos[1];
+        EXPECT_EQ(r.Banca, -m.Gana) << "caso " << caso;
+        EXPECT_EQ(r.Extra[4], m.Series) << "caso " << caso;
+        if (*m.Registro != 0)
+            EXPECT_EQ((r.Resultado[4] + r.Detalle[4]).toStdString(), m.Registro) << "caso " << caso;
         if (*m.Resultado == 0) continue;
         bool visto = false;
         for (const auto& v : MensajesVistos)
@@ -371,4 +397,47 @@ TEST(BlackJack, LossRateAtLevel100MatchesAnIndependentSimulation) {
     EXPECT_GT(ganaBanca.size(), 10000u);
     EXPECT_NEAR(tasa, esperada, 4 * std::hypot(error, errorSim));
     EXPECT_GT(VecesBarajado - barajadasAntes, 300);
+}
+
+// Whole seeded matches on little money end at the first hand after which the bank, or every seat
+// that plays against it, is broke, and say which.
+TEST(BlackJack, AMatchEndsWhenTheBankOrEveryPlayerIsBroke) {
+    MesaDePrueba mesa;
+    PreparaMesaAutomatica(mesa.Carpeta.path());
+    PinturaOmitida = true;
+    int bancaRota = 0, jugadoresRotos = 0;
+    for (unsigned semilla = 1; semilla <= 40; ++semilla) {
+        PreparaPartidaAutomatica({JUEGO_BLACKJACK, 4, false, [] { RestoInicial = 30; }});
+        PausasACero = VuelosOmitidos = true;
+        SemillaFija = semilla;
+        MensajesVistos.clear();
+        int manoRota = 0;
+        PersonaGuionada = [&] {
+            EsperandoPersona = false;
+            if (FaseJuego != FASE_FIN_MANO || manoRota != 0) return;
+            bool quedan = false;
+            for (int s : {1, 3, 4}) quedan = quedan || RestoJugador(s) > 0;
+            if (RestoJugador(2) < 1 || !quedan) manoRota = NumeroMano;
+        };
+        RespuestasGuionadas.assign(4, false);
+        NuevaPartida();
+        PersonaGuionada = nullptr;
+        ASSERT_NE(manoRota, 0) << "semilla " << semilla;
+        EXPECT_EQ(NumeroMano, manoRota) << "semilla " << semilla;
+        std::vector<QString> finales;
+        for (const auto& m : MensajesVistos)
+            if (m.Titulo == "Final de Partida") finales.push_back(m.Texto);
+        ASSERT_EQ(finales.size(), 1u) << "semilla " << semilla;
+        if (RestoJugador(2) < 1) {
+            ++bancaRota;
+            EXPECT_EQ(finales[0], "La banca se ha quedado sin fondos");
+        } else {
+            ++jugadoresRotos;
+            EXPECT_EQ(finales[0], "Todos los jugadores se han quedado sin fondos");
+        }
+    }
+    PinturaOmitida = PausasACero = VuelosOmitidos = false;
+    SemillaFija = 0;
+    EXPECT_GT(bancaRota, 0);
+    EXPECT_GT(jugadoresRotos, 0);
 }

@@ -6,6 +6,7 @@
 #include "frame/Baraja.h"
 #include "frame/Ciclo.h"
 #include "frame/Coherencia.h"
+#include "frame/Ficheros.h"
 #include "frame/TrufalBas.h"
 #include "frame/TrufalGbl.h"
 #include "games/sieteymedia/EstadisSiete.h"
@@ -66,7 +67,20 @@ TEST(SieteYMedia, TheBankPassesOnlyWhenTheTableSaysWhy) {
         PausasACero = VuelosOmitidos = true;
         SemillaFija = semilla;
         MensajesVistos.clear();
-        PersonaGuionada = [] { EsperandoPersona = false; };
+        // The banker deals: the stock lies nearer its cards than any other seat's.
+        PersonaGuionada = [&] {
+            EsperandoPersona = false;
+            if (FaseJuego != FASE_FIN_MANO) return;
+            const QPoint mazo(MazoX + 50, MazoY + 70);
+            int cerca = 0, menor = 1 << 30;
+            for (int s = 1; s <= 4; ++s) {
+                const QPoint zona((ZonaIzquierda[s] + ZonaDerecha[s]) / 2,
+                                  (ZonaArriba[s] + ZonaAbajo[s]) / 2);
+                const int d = (zona - mazo).manhattanLength();
+                if (d < menor) menor = d, cerca = s;
+            }
+            EXPECT_EQ(cerca, JugadorBanca) << "semilla " << semilla << " mano " << NumeroMano;
+        };
         RespuestasGuionadas.assign(4, false);
         NuevaPartida();
         PersonaGuionada = nullptr;
@@ -242,6 +256,8 @@ struct ManoGuionada {
     std::string Punto, Banca;
     int Gana;         // the punter's money after the hand, less before
     bool TomaLaBanca; // the punter holds the bank in the next hand
+    // The punter's record of the hand, the first column of its Resultado, "" unchecked.
+    const char* Registro = "";
 };
 
 int JuegaManoGuionada(const ManoGuionada& m, int& punto) {
@@ -309,15 +325,15 @@ TEST(SieteYMedia, StackedHandsArePaidAsTheRulesSay) {
         // 7 covered and a media: siete y media still covered is paid like any total.
         {{7, 5, 10, 2}, "CP", "CP", 10, false},
         // The same turned up is sung: paid double, and the punter takes the bank.
-        {{7, 5, 10, 2}, "CV", "CP", 20, true},
+        {{7, 5, 10, 2}, "CV", "CP", 20, true, "7 y 1/2"},
         // A bank with siete y media wins the tie and keeps the bank.
         {{7, 1, 10, 11, 6}, "CV", "CCP", -10, false},
         // 6 and 2: the punter busts; the bank has nobody to play against and draws nothing.
-        {{6, 3, 2}, "C", "", -10, false},
+        {{6, 3, 2}, "C", "", -10, false, "Se pasó"},
         // 5 stands; the bank's 4 and 7 bust.
-        {{5, 4, 7}, "P", "CP", 10, false},
+        {{5, 4, 7}, "P", "CP", 10, false, "5"},
         // Six and a half each: the tie goes to the bank.
-        {{6, 6, 12, 11}, "CP", "CP", -10, false},
+        {{6, 6, 12, 11}, "CP", "CP", -10, false, "6 y 1/2"},
         // 3 against the bank's 5.
         {{3, 2, 3}, "P", "CP", -10, false},
         // The 2 turned up, the 5 after it comes covered: the media makes a siete y media that
@@ -334,8 +350,61 @@ TEST(SieteYMedia, StackedHandsArePaidAsTheRulesSay) {
         const int banca = 6 - punto;
         EXPECT_EQ(RestoJugador(banca), 2 * 100 - RestoJugador(punto)) << "caso " << caso;
         EXPECT_EQ(CambiaBanca && NuevaBanca == punto, m.TomaLaBanca) << "caso " << caso;
+        const RegistroMano& r = RegistroManos[1];
+        EXPECT_EQ(r.Banca, -m.Gana) << "caso " << caso;
+        if (*m.Registro != 0)
+            EXPECT_EQ(r.Resultado[punto],
+                      QString::fromUtf8(m.Registro).leftJustified(7) + QString(8, ' '))
+                << "caso " << caso;
         // The bank took the cards the punter didn't: none when the punter had bust.
         const int pedidas = int(std::count(m.Punto.begin(), m.Punto.end(), 'C'));
         EXPECT_EQ(NumCartas[banca][1], int(m.Cartas.size()) - 1 - pedidas) << "caso " << caso;
     }
+}
+
+// A match left at the end of a hand whose bank was to pass, and taken up again in the same run
+// (after a look at another game, say), plays that hand again with the bank and the money it
+// started with.
+TEST(SieteYMedia, AMatchTakenUpAgainReplaysTheHandWithItsBankAndMoney) {
+    MesaDePrueba mesa;
+    PreparaMesaAutomatica(mesa.Carpeta.path());
+    PinturaOmitida = true;
+    int reanudadas = 0;
+    for (unsigned semilla = 1; semilla <= 6; ++semilla) {
+        PreparaPartidaAutomatica({JUEGO_SIETEYMEDIA, 4, false, [] { RestoInicial = 40; }});
+        PausasACero = VuelosOmitidos = true;
+        SemillaFija = semilla;
+        int mano = 0, banca = 0, dinero[5] = {};
+        PersonaGuionada = [&] {
+            EsperandoPersona = false;
+            if (FaseJuego != FASE_FIN_MANO || !CambiaBanca) return;
+            mano = NumeroMano;
+            banca = JugadorBanca;
+            std::copy(RestoAlEmpezar, RestoAlEmpezar + 5, dinero);
+            PreparaPosponer();
+            GrabaJuego();
+            PartidaViva = false;
+        };
+        NuevaPartida();
+        if (mano == 0) continue;
+        int manoOtraVez = 0, bancaOtraVez = 0, dineroOtraVez[5] = {};
+        PersonaGuionada = [&] {
+            EsperandoPersona = false;
+            // The first wait of a table of computer seats is the end of the hand played again.
+            manoOtraVez = NumeroMano;
+            bancaOtraVez = JugadorBanca;
+            std::copy(RestoAlEmpezar, RestoAlEmpezar + 5, dineroOtraVez);
+            PartidaViva = false;
+        };
+        AbreJuego();
+        PersonaGuionada = nullptr;
+        ++reanudadas;
+        EXPECT_EQ(manoOtraVez, mano) << "semilla " << semilla;
+        EXPECT_EQ(bancaOtraVez, banca) << "semilla " << semilla;
+        for (int s = 1; s <= 4; ++s)
+            EXPECT_EQ(dineroOtraVez[s], dinero[s]) << "semilla " << semilla << " seat " << s;
+    }
+    PinturaOmitida = PausasACero = VuelosOmitidos = false;
+    SemillaFija = 0;
+    EXPECT_GE(reanudadas, 3);
 }

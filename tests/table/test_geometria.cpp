@@ -9,6 +9,8 @@
 #include "support/MesaDePrueba.h"
 #include "table/Dibujo.h"
 #include "table/DibujoComun.h"
+#include "table/Ids.h"
+#include "table/Pulsadores.h"
 #include "table/Sugerencia.h"
 
 namespace {
@@ -273,6 +275,16 @@ TEST(Geometria, PilasYNombresNoPisanLasCartas) {
             EXPECT_TRUE(mesaEntera.contains(BloquePila(s + 20))) << s;
             for (int z = 1; z <= 4; ++z)
                 EXPECT_FALSE(CajaCifraApuesta(s).intersects(RectZona(z))) << s << " on " << z;
+            // A seat's stake and its figure clear the row of the seat's action buttons.
+            for (auto& b : Pic_Pulsador) b.Visible = false;
+            QRect fila;
+            for (int i = PULSADOR_CARTA; i <= PULSADOR_SEGURO; ++i) {
+                ColocaPulsador(s, i);
+                const CajaImagen& b = Pic_Pulsador[i];
+                fila |= QRect(b.X, b.Y, b.Ancho(), b.Alto());
+            }
+            EXPECT_FALSE(fila.intersects(QRect(PilaX[s + 10][1], PilaY[s + 10][1], 33, 33))) << s;
+            EXPECT_FALSE(fila.intersects(CajaCifraApuesta(s))) << s;
         }
     }
 }
