@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <vector>
 
 QImage NuevaImagen(int ancho, int alto, unsigned colorRgb) {
     QImage imagen(std::max(ancho, 1) * EscalaMesa, std::max(alto, 1) * EscalaMesa,
@@ -135,6 +136,36 @@ TRUFAL_VECTORIAL void FilaLlena(QRgb* __restrict d, QRgb color, int n) {
     for (int i = 0; i < n; ++i) d[i] = color;
 }
 
+// Runs of a mask: for each pixel, where the run of pixels of its kind (clear, all bits of colour
+// off, or not) that starts there ends. Under a clear run the masked transfer is a plain copy of
+// the picture, whatever lay beneath: a card's mask is clear but for its corners.
+struct TramosMascara {
+    qint64 Clave = -1;
+    int Ancho = 0;
+    std::vector<int> Fin;
+};
+
+const TramosMascara& Tramos(const QImage& m) {
+    static TramosMascara tramos[4];
+    static int siguiente = 0;
+    for (const TramosMascara& t : tramos)
+        if (t.Clave == m.cacheKey()) return t;
+    TramosMascara& t = tramos[siguiente];
+    siguiente = (siguiente + 1) % 4;
+    t.Clave = m.cacheKey();
+    t.Ancho = m.width();
+    t.Fin.assign(static_cast<size_t>(m.width()) * m.height(), 0);
+    for (int y = 0; y < m.height(); ++y) {
+        const QRgb* fila = reinterpret_cast<const QRgb*>(m.constScanLine(y));
+        int* fin = t.Fin.data() + static_cast<size_t>(y) * m.width();
+        fin[m.width() - 1] = m.width();
+        for (int x = m.width() - 2; x >= 0; --x)
+            fin[x] =
+                ((fila[x] & 0xFFFFFF) == 0) == ((fila[x + 1] & 0xFFFFFF) == 0) ? fin[x + 1] : x + 1;
+    }
+    return t;
+}
+
 const QImage* ImagenVigilada = nullptr;
 void (*AvisoEscritura)(const QRect&) = nullptr;
 
@@ -208,11 +239,20 @@ void TransfiereConMascara(QImage& destino, int x, int y, int ancho, int alto, co
     uchar* bitsDestino = destino.bits();
     const uchar* bitsMascara = m.constBits();
     const uchar* bitsImagen = f.constBits();
+    const TramosMascara& tramos = Tramos(m);
     for (int j = 0; j < b.Alto; ++j) {
         QRgb* d = Fila(destino, bitsDestino, b.Y + j, b.X);
         const QRgb* sm = Fila(m, bitsMascara, b.Ys[0] + j, b.Xs[0]);
         const QRgb* si = Fila(f, bitsImagen, b.Ys[1] + j, b.Xs[1]);
-        FilaConMascara(d, sm, si, b.Ancho);
+        const int* fin = tramos.Fin.data() + static_cast<size_t>(b.Ys[0] + j) * tramos.Ancho;
+        for (int i = 0; i < b.Ancho;) {
+            const int hasta = std::min(fin[b.Xs[0] + i] - b.Xs[0], b.Ancho);
+            if ((sm[i] & 0xFFFFFF) == 0)
+                FilaOpaca(d + i, si + i, hasta - i);
+            else
+                FilaConMascara(d + i, sm + i, si + i, hasta - i);
+            i = hasta;
+        }
     }
 }
 

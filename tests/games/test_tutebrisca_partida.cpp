@@ -30,7 +30,9 @@ int Vistos(const QString& titulo) {
 
 // A match laid out as the table lays it: the game's deck and places, every seat the computer's
 // unless said otherwise, no pauses, and the big button pressed at the end of each hand.
+// Each kind of match of these tests is dealt from its own fixed seed: the same cards every run.
 void PreparaPartida(int juego, int jugadores, int pareja = 1) {
+    SemillaFija = static_cast<unsigned>(juego * 100 + jugadores * 10 + pareja);
     JuegoActual = juego;
     NumJugadores = jugadores;
     for (int s = 1; s <= 4; ++s) {
@@ -47,7 +49,10 @@ void PreparaPartida(int juego, int jugadores, int pareja = 1) {
 }
 
 struct Fin {
-    ~Fin() { PausasACero = false; }
+    ~Fin() {
+        PausasACero = false;
+        SemillaFija = 0;
+    }
 };
 
 } // namespace
