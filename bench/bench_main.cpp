@@ -4,6 +4,7 @@
 //   trufal_bench --firmas     only the signatures, in the form of bench/firmas.txt
 //   trufal_bench --tasas [manos]   only the Black Jack loss rates, over 30,000 hands or those given
 //   trufal_bench --mus        only the figures of the Mus
+//   trufal_bench --cinquillo-pumba   only the figures of the Cinquillo and the Pumba
 //   trufal_bench --niveles [manos] [resto]   only the Póker's level 100 against level 0
 #include <QApplication>
 #include <QTemporaryDir>
@@ -27,6 +28,11 @@ int main(int argc, char** argv) {
     }
     if (argc > 1 && std::strcmp(argv[1], "--mus") == 0) {
         BenchMus();
+        return 0;
+    }
+    if (argc > 1 && std::strcmp(argv[1], "--cinquillo-pumba") == 0) {
+        BenchCinquillo();
+        BenchPumba();
         return 0;
     }
     const bool soloFirmas = argc > 1 && std::strcmp(argv[1], "--firmas") == 0;
