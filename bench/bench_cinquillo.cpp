@@ -1,5 +1,6 @@
 // Figures of the Cinquillo: automatic hands per second, with the table drawn and with the game
-// alone, and the hands each level wins.
+// alone, and what level 100 wins against level 0.
+#include <cmath>
 #include <cstdio>
 
 #include "bench/Secciones.h"
@@ -8,20 +9,45 @@
 
 namespace {
 
-// Seats 1 to 4 play at levels 100, 75, 50 and 0: the share of the hands each one wins.
-void ManosGanadasPorNivel() {
-    int ganadas[5] = {}, manos = 0;
-    for (unsigned semilla = 1; semilla <= 200; ++semilla) {
-        PreparaPartidaAutomatica({JUEGO_CINQUILLO, 4, false, [] { LimitePartida = 5; }});
+constexpr int PARTIDAS_NIVEL = 400;
+constexpr int NIVEL_ALTO = 100, NIVEL_BAJO = 0, CARACTER_MEDIO = 2;
+
+// Seats 1 and 3 at level 100 against 2 and 4 at level 0, and the other way round in every other
+// match, all of one character: the share of the hands the level 100 seats win (a half if the
+// level did nothing) with its standard error, and the points a hand of each level, the winner's
+// collection counted as a gain and the cards left as a loss.
+void NivelCienFrenteACero() {
+    int manos = 0, ganadas = 0;
+    long neto[2] = {}; // [0] level 0, [1] level 100
+    for (unsigned semilla = 1; semilla <= PARTIDAS_NIVEL; ++semilla) {
+        const bool impares = semilla % 2 == 1; // the odd seats hold level 100
+        PreparaPartidaAutomatica({JUEGO_CINQUILLO, 4, false, [impares] {
+                                      LimitePartida = 5;
+                                      for (int s = 1; s <= 4; ++s) {
+                                          NivelJugador[s] =
+                                              (s % 2 == 1) == impares ? NIVEL_ALTO : NIVEL_BAJO;
+                                          CaracterJugador[s] = CARACTER_MEDIO;
+                                      }
+                                  }});
+        PinturaOmitida = true;
         const int jugadas = JuegaPartidaAutomatica(semilla);
+        PinturaOmitida = false;
         for (int m = 1; m <= jugadas; ++m)
-            for (int s = 1; s <= 4; ++s) ganadas[s] += RegistroManos[m].Gana[s][1];
+            for (int s = 1; s <= 4; ++s) {
+                const bool alto = NivelJugador[s] == NIVEL_ALTO;
+                const int puntos = RegistroManos[m].Resultado[s].toInt();
+                const bool gana = RegistroManos[m].Gana[s][1] == 1;
+                neto[alto] += gana ? puntos : -puntos;
+                if (gana && alto) ++ganadas;
+            }
         manos += jugadas;
     }
-    std::printf("  Cinquillo, manos ganadas por nivel 100/75/50/0 en %d manos: %4.1f%% %4.1f%% "
-                "%4.1f%% %4.1f%%\n",
-                manos, 100.0 * ganadas[1] / manos, 100.0 * ganadas[2] / manos,
-                100.0 * ganadas[3] / manos, 100.0 * ganadas[4] / manos);
+    const double parte = double(ganadas) / manos;
+    std::printf("  Cinquillo, nivel 100 contra nivel 0 (2 y 2 asientos, %d manos): el nivel 100 "
+                "gana el %4.1f%% ± %3.1f%% de las manos; puntos por mano y asiento: nivel 100 "
+                "%+5.2f, nivel 0 %+5.2f\n",
+                manos, 100 * parte, 100 * std::sqrt(0.25 / manos), neto[1] / (2.0 * manos),
+                neto[0] / (2.0 * manos));
 }
 
 } // namespace
@@ -35,5 +61,5 @@ void BenchCinquillo() {
     const double sola = ManosPorSegundo(mesa, 2000);
     PinturaOmitida = false;
     std::printf("  Cinquillo 4 jugadores: %8.1f %8.1f\n", pintada, sola);
-    ManosGanadasPorNivel();
+    NivelCienFrenteACero();
 }

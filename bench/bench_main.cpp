@@ -5,6 +5,7 @@
 //   trufal_bench --tasas [manos]   only the Black Jack loss rates, over 30,000 hands or those given
 //   trufal_bench --mus        only the figures of the Mus
 //   trufal_bench --banca      only the automatic hands per second of Black Jack and Siete y media
+//   trufal_bench --cinquillo-pumba   only the figures of the Cinquillo and the Pumba
 //   trufal_bench --niveles [manos] [resto]   only the Póker's level 100 against level 0 and 90
 //   trufal_bench --manos [veces] [sola]   only the hands a second of Tute and Brisca, over more
 //                                         hands; with "sola", only with the table not drawn
@@ -40,6 +41,11 @@ int main(int argc, char** argv) {
     }
     if (argc > 1 && std::strcmp(argv[1], "--mus") == 0) {
         BenchMus();
+        return 0;
+    }
+    if (argc > 1 && std::strcmp(argv[1], "--cinquillo-pumba") == 0) {
+        BenchCinquillo();
+        BenchPumba();
         return 0;
     }
     const bool soloFirmas = argc > 1 && std::strcmp(argv[1], "--firmas") == 0;

@@ -1,5 +1,6 @@
-// Figures of the Pumba: automatic hands per second by the seats at the table, and the matches
-// each level wins.
+// Figures of the Pumba: automatic hands per second by the seats at the table, and what level 100
+// wins against level 0.
+#include <cmath>
 #include <cstdio>
 
 #include "bench/Secciones.h"
@@ -8,20 +9,49 @@
 
 namespace {
 
-// Seats 1 to 4 play at levels 100, 75, 50 and 0: the share of the matches each one wins, the
-// last seat under the limit.
-void PartidasGanadasPorNivel() {
-    constexpr int PARTIDAS = 200;
-    int ganadas[5] = {};
-    for (unsigned semilla = 1; semilla <= PARTIDAS; ++semilla) {
-        PreparaPartidaAutomatica({JUEGO_PUMBA, 4, false, [] { LimitePartida = 30; }});
-        JuegaPartidaAutomatica(semilla);
-        if (GanadorPartida >= 1 && GanadorPartida <= 4) ++ganadas[GanadorPartida];
+constexpr int PARTIDAS_NIVEL = 400;
+constexpr int NIVEL_ALTO = 100, NIVEL_BAJO = 0, CARACTER_MEDIO = 2;
+
+// Level 100 against level 0, of one character, the seats taking turns at each level from match
+// to match: with two seats one against one, with four two against two. The share of the matches
+// and of the hands the level 100 seats win, each with its standard error under no difference,
+// and the points a hand each level is left with (the winner's -5 counted, seats out of the match
+// not).
+void NivelCienFrenteACero(int jugadores) {
+    int partidas = 0, partidasAlto = 0, manos = 0, manosAlto = 0;
+    long puntos[2] = {}, cuenta[2] = {};
+    for (unsigned semilla = 1; semilla <= PARTIDAS_NIVEL; ++semilla) {
+        const bool impares = semilla % 2 == 1; // the odd seats hold level 100
+        PreparaPartidaAutomatica({JUEGO_PUMBA, jugadores, false, [impares] {
+                                      for (int s = 1; s <= 4; ++s) {
+                                          NivelJugador[s] =
+                                              (s % 2 == 1) == impares ? NIVEL_ALTO : NIVEL_BAJO;
+                                          CaracterJugador[s] = CARACTER_MEDIO;
+                                      }
+                                  }});
+        PinturaOmitida = true;
+        const int jugadas = JuegaPartidaAutomatica(semilla);
+        PinturaOmitida = false;
+        ++partidas;
+        if (GanadorPartida >= 1 && NivelJugador[GanadorPartida] == NIVEL_ALTO) ++partidasAlto;
+        for (int m = 1; m <= jugadas; ++m)
+            for (int s = 1; s <= jugadores; ++s) {
+                const RegistroMano& r = RegistroManos[m];
+                const bool alto = NivelJugador[s] == NIVEL_ALTO;
+                if (r.Gana[s][1] == 1) manosAlto += alto;
+                if (r.Resultado[s] == "0") continue; // out of the match
+                puntos[alto] += r.Resultado[s].toInt();
+                ++cuenta[alto];
+            }
+        manos += jugadas;
     }
-    std::printf("  Pumba, partidas ganadas por nivel 100/75/50/0 en %d: %4.1f%% %4.1f%% %4.1f%% "
-                "%4.1f%%\n",
-                PARTIDAS, 100.0 * ganadas[1] / PARTIDAS, 100.0 * ganadas[2] / PARTIDAS,
-                100.0 * ganadas[3] / PARTIDAS, 100.0 * ganadas[4] / PARTIDAS);
+    const double pp = double(partidasAlto) / partidas, pm = double(manosAlto) / manos;
+    std::printf("  Pumba %d jugadores, nivel 100 contra nivel 0 (%d partidas, %d manos): el nivel "
+                "100 gana el %4.1f%% ± %3.1f%% de las partidas y el %4.1f%% ± %3.1f%% de las "
+                "manos; puntos por mano: nivel 100 %5.2f, nivel 0 %5.2f\n",
+                jugadores, partidas, manos, 100 * pp, 100 * std::sqrt(0.25 / partidas), 100 * pm,
+                100 * std::sqrt(0.25 / manos), double(puntos[1]) / cuenta[1],
+                double(puntos[0]) / cuenta[0]);
 }
 
 } // namespace
@@ -35,5 +65,6 @@ void BenchPumba() {
         PinturaOmitida = false;
         std::printf("  Pumba     %d jugadores: %8.1f %8.1f\n", jugadores, pintada, sola);
     }
-    PartidasGanadasPorNivel();
+    NivelCienFrenteACero(2);
+    NivelCienFrenteACero(4);
 }

@@ -154,6 +154,9 @@ void DaTiempoAlAviso(int seat) {
 
 // The suit a person names with a Sota, from the popup; none chosen, the computer's.
 int EligePaloPersona() {
+    // The release of the click that laid the card is taken first: the popup opens where the
+    // card was, and that release would otherwise choose the line under it.
+    BombeaAhora();
     for (auto& v : OpcionVisible) v = false;
     for (int entrada = 6; entrada <= 9; ++entrada)
         OpcionVisible[entrada] = OpcionHabilitada[entrada] = true;

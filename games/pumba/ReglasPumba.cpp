@@ -68,13 +68,13 @@ QString AplicaEfectoPumba(int seat, int palo, int valor, int paloNombrado) {
     RepiteAs = false;
     switch (valor) {
     case VALOR_AS:
-        // With another card of its suit the seat plays again: the turn steps back to it.
+        // With another card of its suit the seat plays again: the turn steps back to it. Either
+        // way the suit is noted as one the seat is short of.
         if (CuentaPaloPumba(seat, palo) > 0) {
             RepiteAs = true;
             AnteriorJugador(JugadorActual);
-        } else {
-            SinPalo[seat][palo] = true;
         }
+        SinPalo[seat][palo] = true;
         break;
     case VALOR_DOS:
         ++DosesPendientes;
