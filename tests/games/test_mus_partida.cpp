@@ -265,6 +265,12 @@ TEST(MusPartida, AutomaticHandsPayTheirLancesAndGamesEndAtTheirStones) {
         EXPECT_EQ(Vistos("Final de Partida"), 1);
         EXPECT_EQ(Vistos("Final de la mano"), cuenta.Manos);
         EXPECT_GT(cuenta.Manos, 3);
+        // The report stands in columns: drawn in letters of one width, no row past 48.
+        for (const auto& m : MensajesVistos) {
+            if (m.Titulo != "Final de la mano") continue;
+            EXPECT_TRUE(m.Columnas);
+            for (const QString& fila : m.Texto.split(SaltoLinea)) EXPECT_LE(fila.size(), 48);
+        }
         // The computer seats open, raise and refuse: the stones above still add up.
         EXPECT_GT(cuenta.Envites, 0);
     }
