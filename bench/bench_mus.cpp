@@ -143,11 +143,17 @@ void BenchMus() {
     std::printf("Mus, manos de la baraja con cada jugada:\n");
     FrecuenciasMus(1);
     FrecuenciasMus(2);
-    std::printf(
-        "Mus, manos automáticas por segundo (pausas a cero, sin vuelos, mesa sin ventana):\n");
-    for (int tipo = 1; tipo <= 2; ++tipo)
-        std::printf("  %s: %8.1f\n", tipo == 1 ? "Mus a 4 Reyes" : "Mus a 8 Reyes",
-                    ManosPorSegundo({JUEGO_MUS, 4, true, [tipo] { TipoMus = tipo; }}, 300));
+    std::printf("Mus, manos automáticas por segundo (pausas a cero, sin vuelos, mesa sin ventana; "
+                "pintando y sin pintar):\n");
+    for (int tipo = 1; tipo <= 2; ++tipo) {
+        const MesaAutomatica mesa{JUEGO_MUS, 4, true, [tipo] { TipoMus = tipo; }};
+        const double pintada = ManosPorSegundo(mesa, 300);
+        PinturaOmitida = true;
+        const double sola = ManosPorSegundo(mesa, 600);
+        PinturaOmitida = false;
+        std::printf("  %s: %8.1f %8.1f\n", tipo == 1 ? "Mus a 4 Reyes" : "Mus a 8 Reyes", pintada,
+                    sola);
+    }
     std::printf("Mus, el jugador del ordenador:\n");
     TiemposDecision();
     NivelContraNivel(400);

@@ -54,7 +54,7 @@ QImage CaraMensaje(QPoint cara, const QString& rotulo) {
 }
 
 QFont LetraTexto() {
-    QFont letra("DejaVu Sans");
+    QFont letra(MensajeEnColumnas ? "DejaVu Sans Mono" : "DejaVu Sans");
     letra.setPixelSize(12);
     return letra;
 }
@@ -194,8 +194,11 @@ GeometriaMensaje CalculaMensaje(int lineas) {
 }
 
 void Mensaje(const QString& titulo, const QString& texto, int lineas, int botones, int ayuda) {
+    struct Columnas {
+        ~Columnas() { MensajeEnColumnas = false; } // only for the message it was asked for
+    } columnas;
     if (MensajesGuionados) {
-        MensajesVistos.push_back({titulo, texto, lineas, botones, ayuda});
+        MensajesVistos.push_back({titulo, texto, lineas, botones, ayuda, MensajeEnColumnas});
         RespuestaMensaje = true;
         // A notice takes no answer from the script: only questions do.
         if (botones == 2 && !RespuestasGuionadas.empty()) {

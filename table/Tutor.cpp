@@ -18,7 +18,8 @@ constexpr int VUELTAS_CONSEJO = 2; // rounds of a blinking button, a jumping car
 constexpr int SALTO_MONTON = 10;   // how high the stock or the pile jumps
 
 // The advice said as a phrase of the seat: green, blinking, and not spoken; DibujaJugador
-// plays sound 12 at each blink while the tutor runs, and leaves the phrase wiped.
+// plays sound 12 at each blink while the tutor runs, and leaves the phrase wiped. The buttons
+// the phrase took off ("Mando cortar", "Doblar"...) come back with the seat drawn again.
 void DiceFrase(const QString& frase, int veces) {
     const int seat = JugadorActual;
     FraseJugador[seat][SerieActual] = frase;
@@ -26,6 +27,7 @@ void DiceFrase(const QString& frase, int veces) {
     ParpadeoFrase[seat][SerieActual] = veces;
     DibujaJugador(seat);
     ParpadeoFrase[seat][SerieActual] = 0;
+    DibujaJugador(seat);
 }
 
 QString ConCantidad(const char* texto, int cantidad) {

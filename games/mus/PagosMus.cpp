@@ -404,6 +404,7 @@ bool FinalManoMus() {
         GanadorMano = LanceMus[0].Cobrado[1] > LanceMus[0].Cobrado[2] ? 1 : 2;
     else
         GanadorMano = ParejaDe[JugadorMano];
+    MensajeEnColumnas = true;
     Mensaje("Final de la mano", TextoMensaje, static_cast<int>(TextoMensaje.count(SaltoLinea)) + 1,
             1);
     AnotaRegistro();

@@ -22,6 +22,7 @@
 namespace {
 
 constexpr int SERIE = 1;
+constexpr int PAUSA_FRASE_DESCARTE = 700; // "Dame dos cartas" stays this long on the table
 
 // The information pane on the person's turn, by the turn's draw.
 int TextoRondaMus() {
@@ -194,8 +195,10 @@ bool DescartaSeat(int seat, int fila) {
     RondasMus[fila].Valor[seat] = n;
     CompactaMano(seat);
     for (int p = 1; p <= 4; ++p) mano[p][CAMPO_ESTADO] = 2;
+    // The seat asks for its cards aloud; without a voice the words stay a moment to be read.
     if (DetallarPasos && n > 0) {
         DiceMus(seat, FraseDescarte(n, AzarFrase));
+        Pausa(PAUSA_FRASE_DESCARTE);
         DiceMus(seat, QString());
     }
     if (n > 0) RobaCartas(seat, n, 0);

@@ -17,6 +17,8 @@
 #include <QPainter>
 #include <QTransform>
 #include <algorithm>
+#include <map>
+#include <tuple>
 
 namespace {
 
@@ -102,6 +104,35 @@ QImage ComponeCara(int seat, int codigo) {
     PonCelda(p, hoja, CeldaDeSena(seat, codigo));
     PonCelda(p, hoja, CELDA_MARCO);
     return cara;
+}
+
+// The face as it lies on the table: upright for seat 2, cut or turned for the sides. A face is
+// drawn every time a gaze moves, so each is composed once and kept.
+const QImage& CaraALaMesa(int seat, int codigo) {
+    struct Clave {
+        int Seat, Codigo, Sexo, Imagen;
+        int Escala;
+        bool operator<(const Clave& o) const {
+            return std::tie(Seat, Codigo, Sexo, Imagen, Escala) <
+                   std::tie(o.Seat, o.Codigo, o.Sexo, o.Imagen, o.Escala);
+        }
+    };
+    static std::map<Clave, QImage> Caras;
+    const Clave clave{seat, codigo, VozSexo[seat], seat == 2 ? 0 : ImagenContrarios, EscalaMesa};
+    if (const auto hecha = Caras.find(clave); hecha != Caras.end()) return hecha->second;
+    QImage cara = ComponeCara(seat, codigo);
+    if (seat != 2) {
+        if (ImagenContrarios == 1) {
+            cara = cara.copy(int(RECORTE_VERTICAL * EscalaMesa), 0, int(LADO_VERTICAL * EscalaMesa),
+                             int(ALTO_CARA * EscalaMesa));
+        } else {
+            // Turned a quarter to face the table; the seat on the left is the mirror of the right.
+            cara = cara.transformed(QTransform().rotate(90));
+            if (seat == 1) cara = cara.mirrored(true, false);
+        }
+        cara.setDevicePixelRatio(EscalaMesa);
+    }
+    return Caras.emplace(clave, cara).first->second;
 }
 
 QRect LugarCara(int seat) {
@@ -322,19 +353,8 @@ void DibujaCaras() {
 void DibujaSena(int seat, int codigo) {
     if (seat < 1 || seat > 3 || !SenasVisibles[seat] || Pic_Mesa.Imagen.isNull()) return;
     if (HojaSenas().isNull()) return;
-    QImage cara = ComponeCara(seat, codigo);
+    const QImage& cara = CaraALaMesa(seat, codigo);
     const QRect lugar = LugarCara(seat);
-    if (seat != 2) {
-        if (ImagenContrarios == 1) {
-            cara = cara.copy(int(RECORTE_VERTICAL * EscalaMesa), 0, int(LADO_VERTICAL * EscalaMesa),
-                             int(ALTO_CARA * EscalaMesa));
-        } else {
-            // Turned a quarter to face the table; the seat on the left is the mirror of the right.
-            cara = cara.transformed(QTransform().rotate(90));
-            if (seat == 1) cara = cara.mirrored(true, false);
-        }
-        cara.setDevicePixelRatio(EscalaMesa);
-    }
     BorraBajoCara(seat, lugar);
     AvisaEscritura(
         Pic_Mesa.Imagen,

@@ -12,7 +12,9 @@
 #include "support/MesaDePrueba.h"
 #include "table/GblMesa.h"
 
+#include <QCryptographicHash>
 #include <cmath>
+#include <map>
 #include <cstdio>
 
 #include <gtest/gtest.h>
@@ -194,6 +196,37 @@ TEST(MusSenas, ThePartnerAlwaysSeesAndARivalAsOftenAsTheLevelsGive) {
     }
     SemillaFija = 0;
     PausasACero = false;
+}
+
+// Every gesture and gaze draws a face of its own on the table, for each seat, both ways of showing
+// the rivals and both sexes: a person can tell each one from the others.
+TEST(MusSenas, EachGestureDrawsAFaceOfItsOwn) {
+    MesaDePrueba mesa;
+    PreparaPosicion(FASE_MUS_MUS, 50, 2);
+    ManoViva = true;
+    for (int s = 1; s <= 4; ++s) NumCartas[s][1] = 0; // nothing under the faces
+    for (int imagen = 1; imagen <= 2; ++imagen)
+        for (int sexo : {VOZ_HOMBRE, VOZ_MUJER})
+            for (int seat = 1; seat <= 3; ++seat) {
+                ImagenContrarios = imagen;
+                VozSexo[seat] = sexo;
+                SenasVisibles[seat] = true;
+                std::map<QByteArray, int> caras;
+                std::vector<int> codigos;
+                for (int c = SENA_NADA; c <= SENA_MANDO_ENVIDAR; ++c) codigos.push_back(c);
+                for (int g = MIRADA_ABAJO; g <= MIRADA_COMPANERO; ++g)
+                    codigos.push_back(SENA_MIRADA + g);
+                for (int c : codigos) {
+                    DibujaSena(seat, c);
+                    const QImage& t = Pic_Mesa.Imagen;
+                    const QByteArray huella = QCryptographicHash::hash(
+                        QByteArrayView(t.constBits(), t.sizeInBytes()), QCryptographicHash::Md5);
+                    const auto [otra, nueva] = caras.emplace(huella, c);
+                    EXPECT_TRUE(nueva) << "seat " << seat << " imagen " << imagen << " sexo "
+                                       << sexo << ": " << c << " looks like " << otra->second;
+                }
+                SenasVisibles[seat] = false;
+            }
 }
 
 // Both partners at level 0 keep their eyes down: nothing is ever delivered.

@@ -265,6 +265,12 @@ TEST(MusPartida, AutomaticHandsPayTheirLancesAndGamesEndAtTheirStones) {
         EXPECT_EQ(Vistos("Final de Partida"), 1);
         EXPECT_EQ(Vistos("Final de la mano"), cuenta.Manos);
         EXPECT_GT(cuenta.Manos, 3);
+        // The report stands in columns: drawn in letters of one width, no row past 48.
+        for (const auto& m : MensajesVistos) {
+            if (m.Titulo != "Final de la mano") continue;
+            EXPECT_TRUE(m.Columnas);
+            for (const QString& fila : m.Texto.split(SaltoLinea)) EXPECT_LE(fila.size(), 48);
+        }
         // The computer seats open, raise and refuse: the stones above still add up.
         EXPECT_GT(cuenta.Envites, 0);
     }
@@ -477,4 +483,48 @@ TEST(MusPartida, AMatchPutOffComesBackWithItsStonesAndGames) {
     }
     for (int i = 1; i <= PIEDRAS_MONTON; ++i)
         EXPECT_TRUE(PiedraMontonX[i] >= PilaX[0][5] && PiedraMontonX[i] < PilaX[0][5] + 44) << i;
+}
+
+// The big button at every wait of a few hands, the computer seats waiting for it too: "Decide"
+// in the round of mus, "Descarta" in the discards, "Envida" through the lances and their
+// declarations, "Mostrar cartas" or "Resolver órdago" at the showdown, and on the person's own
+// turns its name and "automático".
+TEST(MusPartida, TheBigButtonSaysWhatTheSeatOnTurnIsDoing) {
+    Fin fin;
+    MesaDePrueba mesa;
+    PreparaMus(mesa.Carpeta.path(), {4});
+    ContinuarManual = true;
+    std::map<QString, int> vistos; // each expected caption, and how often it was seen
+    int declaraciones[3] = {};     // [computer, person]
+    PersonaGuionada = [&] {
+        if (!EsperandoPersona) return;
+        if (ManoViva) {
+            const bool persona = ControlJugador[JugadorActual] == CONTROL_MANUAL;
+            QString uno = NombreJugador[JugadorActual], dos = "automático";
+            if (FaseJuego == FASE_MUS_RESUELVE) {
+                uno = LanceOrdago != 0 ? "Resolver" : "Mostrar";
+                dos = LanceOrdago != 0 ? "órdago" : "cartas";
+            } else if (!persona) {
+                dos = NombreJugador[JugadorActual];
+                uno = FaseJuego == FASE_MUS_MUS        ? "Decide"
+                      : FaseJuego == FASE_MUS_DESCARTE ? "Descarta"
+                                                       : "Envida";
+            }
+            EXPECT_EQ(LineaContinuar(1), uno) << "fase " << FaseJuego;
+            EXPECT_EQ(LineaContinuar(2), dos) << "fase " << FaseJuego;
+            ++vistos[uno + " " + (persona ? "persona" : dos.left(7))];
+            if (RondaDeclaracion) ++declaraciones[persona ? 1 : 0];
+            if (persona && FaseJuego == FASE_MUS_MUS) return PulsaPulsador(PULSADOR_MUS);
+        } else if (NumeroMano >= 8) {
+            PartidaViva = false;
+        }
+        EsperandoPersona = false;
+    };
+    SemillaFija = 31;
+    NuevaPartida();
+    for (const char* c : {"Decide Jugador", "Descarta Jugador", "Envida Jugador", "Mostrar cartas",
+                          "Jugador4 persona"})
+        EXPECT_GT(vistos[c], 0) << c;
+    EXPECT_GT(declaraciones[0], 0);
+    EXPECT_GT(declaraciones[1], 0);
 }

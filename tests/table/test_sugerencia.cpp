@@ -10,6 +10,7 @@
 #include "support/MesaDePrueba.h"
 #include "table/Botonera.h"
 #include "table/Dibujo.h"
+#include "table/Ids.h"
 #include "table/Mensajes.h"
 #include "table/Raton.h"
 #include "table/Sugerencia.h"
@@ -339,6 +340,24 @@ TEST_F(SugerenciaTutor, ElBotonAconsejadoParpadeaYLosDescartesSeLevantan) {
     Tutor();
     EXPECT_EQ(Veces(6), 2);
     EXPECT_TRUE(levantadas.empty());
+
+    // The Mus: "Mandar cortar" blinks where "Mando cortar" stood, then "Mus" blinks, and the
+    // person can still give the order.
+    sonidos.clear();
+    JuegoActual = JUEGO_MUS;
+    FaseJuego = FASE_MUS_MUS;
+    LanceActual = 0;
+    DibujaJugador(4);
+    ASSERT_TRUE(Pic_Pulsador[PULSADOR_MANDO].Visible);
+    ConsejoTutor mus;
+    mus.Pulsador = PULSADOR_MUS;
+    mus.MandaSena = true;
+    PonRutina(JUEGO_MUS, mus);
+    Tutor();
+    EXPECT_EQ(Veces(12), 2);
+    EXPECT_EQ(Veces(6), 2);
+    EXPECT_TRUE(Pic_Pulsador[PULSADOR_MANDO].Visible);
+    for (int i : {PULSADOR_MUS, PULSADOR_NO_MUS, PULSADOR_MANDO}) Pic_Pulsador[i].Visible = false;
 }
 
 TEST(SugerenciaFrasesTutor, FrasesDeApuestaDelPoker) {
