@@ -97,13 +97,13 @@ void PreparaDestino(QImage& destino, int k) {
     }
 }
 
-QRgb* Fila(QImage& imagen, uchar* bits, int y, int x) {
-    return reinterpret_cast<QRgb*>(bits + static_cast<qsizetype>(y) * imagen.bytesPerLine()) + x;
+// A row of a picture from its bits and the length of its lines in bytes, read once a transfer.
+QRgb* Fila(uchar* bits, qsizetype linea, int y, int x) {
+    return reinterpret_cast<QRgb*>(bits + y * linea) + x;
 }
 
-const QRgb* Fila(const QImage& imagen, const uchar* bits, int y, int x) {
-    return reinterpret_cast<const QRgb*>(bits + static_cast<qsizetype>(y) * imagen.bytesPerLine()) +
-           x;
+const QRgb* Fila(const uchar* bits, qsizetype linea, int y, int x) {
+    return reinterpret_cast<const QRgb*>(bits + y * linea) + x;
 }
 
 // The rows of the raster operations. Each is written so that the compiler lays it out in the
@@ -199,10 +199,11 @@ void Transfiere(QImage& destino, int x, int y, int ancho, int alto, const QImage
     Avisa(destino, x, y, ancho, alto);
     uchar* bitsDestino = destino.bits(); // detaches once, not once a row
     const uchar* bitsFuente = fuente.constBits();
+    const qsizetype lineaDestino = destino.bytesPerLine(), lineaFuente = fuente.bytesPerLine();
     const bool opaca = fuente.format() == QImage::Format_RGB32;
     for (int j = 0; j < b.Alto; ++j) {
-        QRgb* d = Fila(destino, bitsDestino, b.Y + j, b.X);
-        const QRgb* s = Fila(fuente, bitsFuente, b.Ys[0] + j, b.Xs[0]);
+        QRgb* d = Fila(bitsDestino, lineaDestino, b.Y + j, b.X);
+        const QRgb* s = Fila(bitsFuente, lineaFuente, b.Ys[0] + j, b.Xs[0]);
         switch (op) {
         case OpRaster::Copia:
             // An RGB32 row already carries its opaque alpha: it is copied whole.
@@ -239,11 +240,13 @@ void TransfiereConMascara(QImage& destino, int x, int y, int ancho, int alto, co
     uchar* bitsDestino = destino.bits();
     const uchar* bitsMascara = m.constBits();
     const uchar* bitsImagen = f.constBits();
+    const qsizetype lineaDestino = destino.bytesPerLine(), lineaMascara = m.bytesPerLine(),
+                    lineaImagen = f.bytesPerLine();
     const TramosMascara& tramos = Tramos(m);
     for (int j = 0; j < b.Alto; ++j) {
-        QRgb* d = Fila(destino, bitsDestino, b.Y + j, b.X);
-        const QRgb* sm = Fila(m, bitsMascara, b.Ys[0] + j, b.Xs[0]);
-        const QRgb* si = Fila(f, bitsImagen, b.Ys[1] + j, b.Xs[1]);
+        QRgb* d = Fila(bitsDestino, lineaDestino, b.Y + j, b.X);
+        const QRgb* sm = Fila(bitsMascara, lineaMascara, b.Ys[0] + j, b.Xs[0]);
+        const QRgb* si = Fila(bitsImagen, lineaImagen, b.Ys[1] + j, b.Xs[1]);
         const int* fin = tramos.Fin.data() + static_cast<size_t>(b.Ys[0] + j) * tramos.Ancho;
         for (int i = 0; i < b.Ancho;) {
             const int hasta = std::min(fin[b.Xs[0] + i] - b.Xs[0], b.Ancho);

@@ -83,11 +83,9 @@ void CompruebaCeldasLimpias(const QRect& zona, unsigned colorMesa) {
 } // namespace
 
 FirmaParte& FirmaParte::operator<<(qint64 numero) {
-    // FNV-1a over the eight bytes of the number.
-    for (int i = 0; i < 8; ++i) {
-        Valor ^= static_cast<quint64>(numero >> (8 * i)) & 0xFF;
-        Valor *= 1099511628211ull;
-    }
+    // Each number stirred in whole: a multiply and a shift spread it over all the bits.
+    Valor = (Valor ^ static_cast<quint64>(numero)) * 0x9E3779B97F4A7C15ull;
+    Valor ^= Valor >> 29;
     return *this;
 }
 

@@ -258,10 +258,18 @@ bool ProcedeSimulacion() {
 }
 
 void SimulaFinal() {
-    std::memset(GanadasSim, 0, sizeof GanadasSim);
-    std::memset(MargenSim, 0, sizeof MargenSim);
+    // A run writes no entry beyond the positions it laid out: only those of the last run are
+    // cleared (all of them the first time).
+    static int ultimaAntes = MAX_POS;
+    for (int a = 0; a <= ultimaAntes; ++a)
+        for (int b = 0; b <= ultimaAntes; ++b)
+            for (int c = 0; c <= ultimaAntes; ++c) {
+                std::memset(GanadasSim[a][b][c], 0, sizeof(int) * (ultimaAntes + 1));
+                std::memset(MargenSim[a][b][c], 0, sizeof(int) * (ultimaAntes + 1));
+            }
     CartasSim = NumCartas[JugadorSalida][SERIE];
     if (CartasSim > MAX_POS) CartasSim = MAX_POS;
+    ultimaAntes = CartasSim < 0 ? 0 : CartasSim;
     TurnosSim = NumJugadores < 4 ? NumJugadores : 4;
     if (CartasSim < 1 || TurnosSim < 1) return;
     // Paso 1. With cards still to draw only the current trick is laid out.
