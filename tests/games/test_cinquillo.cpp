@@ -13,6 +13,7 @@
 #include "platform/CajaImagen.h"
 #include "support/ManosTuteBrisca.h"
 #include "support/MesaDePrueba.h"
+#include "support/Niveles.h"
 #include "table/Botonera.h"
 #include "table/Dibujo.h"
 #include "table/Mensajes.h"
@@ -351,28 +352,9 @@ TEST(Cinquillo, AutomaticMatchesLayOnlyWhatFitsAndEndAtTheLimit) {
 // errors over the half.
 TEST(Cinquillo, LevelOneHundredWinsMoreHandsThanLevelZero) {
     MesaDePrueba mesa;
-    const AsientosGuardados asientos;
     PreparaMesaAutomatica(mesa.Carpeta.path());
-    constexpr int MANOS = 400;
-    int manos = 0, ganadas = 0;
-    for (unsigned semilla = 1; manos < MANOS; ++semilla) {
-        const bool impares = semilla % 2 == 1;
-        PreparaPartidaAutomatica({JUEGO_CINQUILLO, 4, false, [impares] {
-                                      LimitePartida = 3;
-                                      for (int s = 1; s <= 4; ++s) {
-                                          NivelJugador[s] = (s % 2 == 1) == impares ? 100 : 0;
-                                          CaracterJugador[s] = 2;
-                                      }
-                                  }});
-        PinturaOmitida = true;
-        const int jugadas = JuegaPartidaAutomatica(semilla);
-        PinturaOmitida = false;
-        for (int m = 1; m <= jugadas; ++m)
-            for (int s = 1; s <= 4; ++s)
-                ganadas += RegistroManos[m].Gana[s][1] == 1 && NivelJugador[s] == 100;
-        manos += jugadas;
-    }
-    const double cota = 0.5 + 4 * 0.5 / std::sqrt(double(manos));
-    EXPECT_GT(double(ganadas) / manos, cota) << ganadas << " of " << manos;
-    std::printf("[          ] level 100 wins %d of %d hands\n", ganadas, manos);
+    const ManosDeNivel r = JuegaNivelesAlternos(JUEGO_CINQUILLO, 4, 400, [] { LimitePartida = 3; });
+    const double cota = 0.5 + 4 * 0.5 / std::sqrt(double(r.Manos));
+    EXPECT_GT(double(r.Ganadas) / r.Manos, cota) << r.Ganadas << " of " << r.Manos;
+    std::printf("[          ] level 100 wins %d of %d hands\n", r.Ganadas, r.Manos);
 }

@@ -15,6 +15,7 @@
 #include "platform/CajaImagen.h"
 #include "support/ManosTuteBrisca.h"
 #include "support/MesaDePrueba.h"
+#include "support/Niveles.h"
 #include "table/Dibujo.h"
 #include "table/Mensajes.h"
 #include "table/Popup.h"
@@ -628,27 +629,9 @@ TEST(Pumba, APostponedReversedHandResumesWithTheSameLeader) {
 // (the bench measures it over 1,800), and the test asks for four standard errors over the half.
 TEST(Pumba, LevelOneHundredWinsMoreHandsThanLevelZero) {
     MesaDePrueba mesa;
-    const AsientosGuardados asientos;
     PreparaMesaAutomatica(mesa.Carpeta.path());
-    constexpr int MANOS = 400;
-    int manos = 0, ganadas = 0;
-    for (unsigned semilla = 1; manos < MANOS; ++semilla) {
-        const bool primero = semilla % 2 == 1;
-        PreparaPartidaAutomatica({JUEGO_PUMBA, 2, false, [primero] {
-                                      for (int s = 1; s <= 4; ++s) {
-                                          NivelJugador[s] = (s == 1) == primero ? 100 : 0;
-                                          CaracterJugador[s] = 2;
-                                      }
-                                  }});
-        PinturaOmitida = true;
-        const int jugadas = JuegaPartidaAutomatica(semilla);
-        PinturaOmitida = false;
-        for (int m = 1; m <= jugadas; ++m)
-            for (int s = 1; s <= 2; ++s)
-                ganadas += RegistroManos[m].Gana[s][1] == 1 && NivelJugador[s] == 100;
-        manos += jugadas;
-    }
-    const double cota = 0.5 + 4 * 0.5 / std::sqrt(double(manos));
-    EXPECT_GT(double(ganadas) / manos, cota) << ganadas << " of " << manos;
-    std::printf("[          ] level 100 wins %d of %d hands\n", ganadas, manos);
+    const ManosDeNivel r = JuegaNivelesAlternos(JUEGO_PUMBA, 2, 400);
+    const double cota = 0.5 + 4 * 0.5 / std::sqrt(double(r.Manos));
+    EXPECT_GT(double(r.Ganadas) / r.Manos, cota) << r.Ganadas << " of " << r.Manos;
+    std::printf("[          ] level 100 wins %d of %d hands\n", r.Ganadas, r.Manos);
 }
