@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr int JUGADAS = 120; // moves looked at in each match: a few hands of any game
+constexpr int JUGADAS = 80; // moves looked at in each match: a hand or two of any game
 
 // The table after each move of the first JUGADAS moves of a seeded match, as a digest each.
 std::vector<QByteArray> MesasDeLaPartida(const MesaAutomatica& tipo, unsigned semilla,
