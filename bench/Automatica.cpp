@@ -1,6 +1,7 @@
 #include "bench/Automatica.h"
 
 #include <QFile>
+#include <algorithm>
 
 #include "betting/Fichas.h"
 #include "frame/Baraja.h"
@@ -106,4 +107,43 @@ quint64 HuellaPartida(quint64 huella) {
         huella = Mezcla(huella, Piedras[s]);
     }
     return Mezcla(huella, GanadorPartida);
+}
+
+void JuegaNivelesAlternos(int juego, int jugadores, const std::function<void()>& opciones,
+                          const std::function<bool(int manos)>& trasPartida) {
+    constexpr int CARACTER_MEDIO = 2;
+    int nivel[5], caracter[5];
+    std::copy(NivelJugador, NivelJugador + 5, nivel);
+    std::copy(CaracterJugador, CaracterJugador + 5, caracter);
+    const bool pintura = PinturaOmitida;
+    for (unsigned semilla = 1;; ++semilla) {
+        const bool impares = semilla % 2 == 1;
+        PreparaPartidaAutomatica({juego, jugadores, false, [&] {
+                                      if (opciones) opciones();
+                                      for (int s = 1; s <= 4; ++s) {
+                                          NivelJugador[s] =
+                                              (s % 2 == 1) == impares ? NIVEL_ALTO : NIVEL_BAJO;
+                                          CaracterJugador[s] = CARACTER_MEDIO;
+                                      }
+                                  }});
+        PinturaOmitida = true;
+        const int manos = JuegaPartidaAutomatica(semilla);
+        PinturaOmitida = pintura;
+        if (!trasPartida(manos)) break;
+    }
+    std::copy(nivel, nivel + 5, NivelJugador);
+    std::copy(caracter, caracter + 5, CaracterJugador);
+}
+
+ManosDeNivel ManosGanadasPorNivel(int juego, int jugadores, int manosMinimas,
+                                  const std::function<void()>& opciones) {
+    ManosDeNivel r;
+    JuegaNivelesAlternos(juego, jugadores, opciones, [&](int manos) {
+        for (int m = 1; m <= manos; ++m)
+            for (int s = 1; s <= jugadores; ++s)
+                r.Ganadas += RegistroManos[m].Gana[s][1] == 1 && NivelJugador[s] == NIVEL_ALTO;
+        r.Manos += manos;
+        return r.Manos < manosMinimas;
+    });
+    return r;
 }

@@ -28,3 +28,19 @@ int JuegaPartidaAutomatica(unsigned semilla, bool todosLosFotogramas = false);
 // A fingerprint of the match just played: each hand's record, the games won, the money, the
 // stones.
 quint64 HuellaPartida(quint64 huella = 14695981039346656037ull);
+
+// Level 100 against level 0, all seats of one character, in matches from seed 1 on, the table
+// not drawn: the odd seats hold level 100 in the odd matches and the even seats in the others,
+// so that no seat's place tells. After each match trasPartida reads RegistroManos and the
+// seats' levels as the match left them, and says whether to play another. The seats' levels
+// and characters are put back at the end.
+void JuegaNivelesAlternos(int juego, int jugadores, const std::function<void()>& opciones,
+                          const std::function<bool(int manos)>& trasPartida);
+// Hands played and hands won by the level 100 seats of those matches, until that many hands.
+struct ManosDeNivel {
+    int Manos = 0, Ganadas = 0;
+};
+ManosDeNivel ManosGanadasPorNivel(int juego, int jugadores, int manosMinimas,
+                                  const std::function<void()>& opciones = nullptr);
+// The levels of the two sides.
+constexpr int NIVEL_ALTO = 100, NIVEL_BAJO = 0;

@@ -10,7 +10,6 @@
 namespace {
 
 constexpr int PARTIDAS_NIVEL = 400;
-constexpr int NIVEL_ALTO = 100, NIVEL_BAJO = 0, CARACTER_MEDIO = 2;
 
 // Seats 1 and 3 at level 100 against 2 and 4 at level 0, and the other way round in every other
 // match, all of one character: the share of the hands the level 100 seats win (a half if the
@@ -19,29 +18,21 @@ constexpr int NIVEL_ALTO = 100, NIVEL_BAJO = 0, CARACTER_MEDIO = 2;
 void NivelCienFrenteACero() {
     int manos = 0, ganadas = 0;
     long neto[2] = {}; // [0] level 0, [1] level 100
-    for (unsigned semilla = 1; semilla <= PARTIDAS_NIVEL; ++semilla) {
-        const bool impares = semilla % 2 == 1; // the odd seats hold level 100
-        PreparaPartidaAutomatica({JUEGO_CINQUILLO, 4, false, [impares] {
-                                      LimitePartida = 5;
-                                      for (int s = 1; s <= 4; ++s) {
-                                          NivelJugador[s] =
-                                              (s % 2 == 1) == impares ? NIVEL_ALTO : NIVEL_BAJO;
-                                          CaracterJugador[s] = CARACTER_MEDIO;
-                                      }
-                                  }});
-        PinturaOmitida = true;
-        const int jugadas = JuegaPartidaAutomatica(semilla);
-        PinturaOmitida = false;
-        for (int m = 1; m <= jugadas; ++m)
-            for (int s = 1; s <= 4; ++s) {
-                const bool alto = NivelJugador[s] == NIVEL_ALTO;
-                const int puntos = RegistroManos[m].Resultado[s].toInt();
-                const bool gana = RegistroManos[m].Gana[s][1] == 1;
-                neto[alto] += gana ? puntos : -puntos;
-                if (gana && alto) ++ganadas;
-            }
-        manos += jugadas;
-    }
+    int partidas = 0;
+    JuegaNivelesAlternos(
+        JUEGO_CINQUILLO, 4, [] { LimitePartida = 5; },
+        [&](int jugadas) {
+            for (int m = 1; m <= jugadas; ++m)
+                for (int s = 1; s <= 4; ++s) {
+                    const bool alto = NivelJugador[s] == NIVEL_ALTO;
+                    const int puntos = RegistroManos[m].Resultado[s].toInt();
+                    const bool gana = RegistroManos[m].Gana[s][1] == 1;
+                    neto[alto] += gana ? puntos : -puntos;
+                    if (gana && alto) ++ganadas;
+                }
+            manos += jugadas;
+            return ++partidas < PARTIDAS_NIVEL;
+        });
     const double parte = double(ganadas) / manos;
     std::printf("  Cinquillo, nivel 100 contra nivel 0 (2 y 2 asientos, %d manos): el nivel 100 "
                 "gana el %4.1f%% ± %3.1f%% de las manos; puntos por mano y asiento: nivel 100 "

@@ -23,7 +23,7 @@
 
 namespace {
 
-constexpr int NIVEL_ALTO = 100, NIVEL_RIVALES = 90, NIVEL_BAJO = 0;
+constexpr int NIVEL_RIVALES = 90;      // the highest level that doesn't read the rivals' cards
 constexpr int MANOS_POR_PARTIDA = 200; // then the match starts again with fresh money
 constexpr int MAXIMA_FABRICA = 25;
 // The table of the level's test: bold seats and big stakes, where the folds that read the

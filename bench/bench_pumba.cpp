@@ -10,7 +10,6 @@
 namespace {
 
 constexpr int PARTIDAS_NIVEL = 400;
-constexpr int NIVEL_ALTO = 100, NIVEL_BAJO = 0, CARACTER_MEDIO = 2;
 
 // Level 100 against level 0, of one character, the seats taking turns at each level from match
 // to match: with two seats one against one, with four two against two. The share of the matches
@@ -20,19 +19,7 @@ constexpr int NIVEL_ALTO = 100, NIVEL_BAJO = 0, CARACTER_MEDIO = 2;
 void NivelCienFrenteACero(int jugadores) {
     int partidas = 0, partidasAlto = 0, manos = 0, manosAlto = 0;
     long puntos[2] = {}, cuenta[2] = {};
-    for (unsigned semilla = 1; semilla <= PARTIDAS_NIVEL; ++semilla) {
-        const bool impares = semilla % 2 == 1; // the odd seats hold level 100
-        PreparaPartidaAutomatica({JUEGO_PUMBA, jugadores, false, [impares] {
-                                      for (int s = 1; s <= 4; ++s) {
-                                          NivelJugador[s] =
-                                              (s % 2 == 1) == impares ? NIVEL_ALTO : NIVEL_BAJO;
-                                          CaracterJugador[s] = CARACTER_MEDIO;
-                                      }
-                                  }});
-        PinturaOmitida = true;
-        const int jugadas = JuegaPartidaAutomatica(semilla);
-        PinturaOmitida = false;
-        ++partidas;
+    JuegaNivelesAlternos(JUEGO_PUMBA, jugadores, nullptr, [&](int jugadas) {
         if (GanadorPartida >= 1 && NivelJugador[GanadorPartida] == NIVEL_ALTO) ++partidasAlto;
         for (int m = 1; m <= jugadas; ++m)
             for (int s = 1; s <= jugadores; ++s) {
@@ -44,7 +31,8 @@ void NivelCienFrenteACero(int jugadores) {
                 ++cuenta[alto];
             }
         manos += jugadas;
-    }
+        return ++partidas < PARTIDAS_NIVEL;
+    });
     const double pp = double(partidasAlto) / partidas, pm = double(manosAlto) / manos;
     std::printf("  Pumba %d jugadores, nivel 100 contra nivel 0 (%d partidas, %d manos): el nivel "
                 "100 gana el %4.1f%% ± %3.1f%% de las partidas y el %4.1f%% ± %3.1f%% de las "

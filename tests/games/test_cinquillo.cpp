@@ -13,7 +13,6 @@
 #include "platform/CajaImagen.h"
 #include "support/ManosTuteBrisca.h"
 #include "support/MesaDePrueba.h"
-#include "support/Niveles.h"
 #include "table/Botonera.h"
 #include "table/Dibujo.h"
 #include "table/Mensajes.h"
@@ -104,19 +103,6 @@ int RevisaMano() {
     EXPECT_EQ(vacio, GanadorMano);
     return pases;
 }
-
-// The seats' levels and characters as a test found them, put back when it ends.
-struct AsientosGuardados {
-    int Nivel[5], Caracter[5];
-    AsientosGuardados() {
-        std::copy(NivelJugador, NivelJugador + 5, Nivel);
-        std::copy(CaracterJugador, CaracterJugador + 5, Caracter);
-    }
-    ~AsientosGuardados() {
-        std::copy(Nivel, Nivel + 5, NivelJugador);
-        std::copy(Caracter, Caracter + 5, CaracterJugador);
-    }
-};
 
 } // namespace
 
@@ -353,7 +339,7 @@ TEST(Cinquillo, AutomaticMatchesLayOnlyWhatFitsAndEndAtTheLimit) {
 TEST(Cinquillo, LevelOneHundredWinsMoreHandsThanLevelZero) {
     MesaDePrueba mesa;
     PreparaMesaAutomatica(mesa.Carpeta.path());
-    const ManosDeNivel r = JuegaNivelesAlternos(JUEGO_CINQUILLO, 4, 400, [] { LimitePartida = 3; });
+    const ManosDeNivel r = ManosGanadasPorNivel(JUEGO_CINQUILLO, 4, 400, [] { LimitePartida = 3; });
     const double cota = 0.5 + 4 * 0.5 / std::sqrt(double(r.Manos));
     EXPECT_GT(double(r.Ganadas) / r.Manos, cota) << r.Ganadas << " of " << r.Manos;
     std::printf("[          ] level 100 wins %d of %d hands\n", r.Ganadas, r.Manos);

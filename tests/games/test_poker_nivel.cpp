@@ -26,7 +26,6 @@ namespace {
 // ruined within a match.
 constexpr int JUGADORES = 4, AGRESIVO = 3, APUESTA_MAXIMA = 100, RESTO = 995;
 constexpr int PARTIDAS = 80, MANOS_POR_PARTIDA = 25;
-constexpr int NIVEL_ALTO = 100, NIVEL_BAJO = 0;
 constexpr double ERRORES = 3; // the margin the level must win by, in standard errors
 
 // The chips a hand won by the seat under test in each match, with that seat at the level given

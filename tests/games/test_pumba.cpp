@@ -15,7 +15,6 @@
 #include "platform/CajaImagen.h"
 #include "support/ManosTuteBrisca.h"
 #include "support/MesaDePrueba.h"
-#include "support/Niveles.h"
 #include "table/Dibujo.h"
 #include "table/Mensajes.h"
 #include "table/Popup.h"
@@ -158,19 +157,6 @@ unsigned SemillaBajo(double limite) {
         }
     }
 }
-
-// The seats' levels and characters as a test found them, put back when it ends.
-struct AsientosGuardados {
-    int Nivel[5], Caracter[5];
-    AsientosGuardados() {
-        std::copy(NivelJugador, NivelJugador + 5, Nivel);
-        std::copy(CaracterJugador, CaracterJugador + 5, Caracter);
-    }
-    ~AsientosGuardados() {
-        std::copy(Nivel, Nivel + 5, NivelJugador);
-        std::copy(Caracter, Caracter + 5, CaracterJugador);
-    }
-};
 
 } // namespace
 
@@ -630,7 +616,7 @@ TEST(Pumba, APostponedReversedHandResumesWithTheSameLeader) {
 TEST(Pumba, LevelOneHundredWinsMoreHandsThanLevelZero) {
     MesaDePrueba mesa;
     PreparaMesaAutomatica(mesa.Carpeta.path());
-    const ManosDeNivel r = JuegaNivelesAlternos(JUEGO_PUMBA, 2, 400);
+    const ManosDeNivel r = ManosGanadasPorNivel(JUEGO_PUMBA, 2, 400);
     const double cota = 0.5 + 4 * 0.5 / std::sqrt(double(r.Manos));
     EXPECT_GT(double(r.Ganadas) / r.Manos, cota) << r.Ganadas << " of " << r.Manos;
     std::printf("[          ] level 100 wins %d of %d hands\n", r.Ganadas, r.Manos);

@@ -1,5 +1,7 @@
 #include "support/MesaDePrueba.h"
 
+#include <algorithm>
+
 #include <QFile>
 
 #include "frame/Ciclo.h"
@@ -61,4 +63,14 @@ MesaDePrueba::~MesaDePrueba() {
     FinPrograma = nullptr;
     PartidaViva = ManoViva = false;
     EsperandoPersona = false;
+}
+
+AsientosGuardados::AsientosGuardados() {
+    std::copy(NivelJugador, NivelJugador + 5, Nivel);
+    std::copy(CaracterJugador, CaracterJugador + 5, Caracter);
+}
+
+AsientosGuardados::~AsientosGuardados() {
+    std::copy(Nivel, Nivel + 5, NivelJugador);
+    std::copy(Caracter, Caracter + 5, CaracterJugador);
 }

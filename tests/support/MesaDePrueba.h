@@ -19,3 +19,10 @@ QByteArray LeeFichero(const QString& ruta);
 
 // Puts every seat and rule setting to its factory value, and clears a match.
 void ReiniciaEstado();
+
+// The seats' levels and characters as a test found them, put back when it ends.
+struct AsientosGuardados {
+    int Nivel[5], Caracter[5];
+    AsientosGuardados();
+    ~AsientosGuardados();
+};
