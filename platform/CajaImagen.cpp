@@ -242,12 +242,17 @@ void TransfiereConMascara(QImage& destino, int x, int y, int ancho, int alto, co
     const uchar* bitsImagen = f.constBits();
     const qsizetype lineaDestino = destino.bytesPerLine(), lineaMascara = m.bytesPerLine(),
                     lineaImagen = f.bytesPerLine();
-    const TramosMascara& tramos = Tramos(m);
+    // A mask brought to another resolution is a new picture each time: its runs aren't kept.
+    const TramosMascara* tramos = &m == &mascara ? &Tramos(m) : nullptr;
     for (int j = 0; j < b.Alto; ++j) {
         QRgb* d = Fila(bitsDestino, lineaDestino, b.Y + j, b.X);
         const QRgb* sm = Fila(bitsMascara, lineaMascara, b.Ys[0] + j, b.Xs[0]);
         const QRgb* si = Fila(bitsImagen, lineaImagen, b.Ys[1] + j, b.Xs[1]);
-        const int* fin = tramos.Fin.data() + static_cast<size_t>(b.Ys[0] + j) * tramos.Ancho;
+        if (!tramos) {
+            FilaConMascara(d, sm, si, b.Ancho);
+            continue;
+        }
+        const int* fin = tramos->Fin.data() + static_cast<size_t>(b.Ys[0] + j) * tramos->Ancho;
         for (int i = 0; i < b.Ancho;) {
             const int hasta = std::min(fin[b.Xs[0] + i] - b.Xs[0], b.Ancho);
             if ((sm[i] & 0xFFFFFF) == 0)

@@ -1,7 +1,5 @@
 // A seat brought up to date: its action buttons, its cards, its phrase and its stake.
 #include "betting/Fichas.h"
-#include <algorithm>
-#include <cstdlib>
 #include "frame/Ciclo.h"
 #include "frame/TrufalGbl.h"
 #include "platform/Sonido.h"
@@ -10,6 +8,8 @@
 #include "table/Frases.h"
 #include "table/PartesMesa.h"
 #include "table/Pulsadores.h"
+
+#include <cstdlib>
 
 namespace {
 
@@ -107,9 +107,8 @@ quint64 FirmaFila(int seat, const QRect& limpia) {
           << (JuegoActual == JUEGO_SIETEYMEDIA) << limpia;
     for (int p = 1; p <= total; ++p) {
         const auto& c = CartasJugador[seat][SerieActual][p];
-        const bool colgada = ArrastrandoCarta && p == PosicionOrigen;
-        firma << colgada << c[CAMPO_PALO] << c[CAMPO_VALOR] << c[CAMPO_CARA] << c[CAMPO_ESTADO]
-              << c[CAMPO_MARCA];
+        firma << CartaEnFila(seat, p) << c[CAMPO_PALO] << c[CAMPO_VALOR] << c[CAMPO_CARA]
+              << c[CAMPO_ESTADO] << c[CAMPO_MARCA];
     }
     for (int o = 1; o <= 4; ++o)
         firma << Pic_Baraja[o].Imagen.cacheKey() << Pic_Comodin[o].Imagen.cacheKey();
@@ -118,12 +117,9 @@ quint64 FirmaFila(int seat, const QRect& limpia) {
 }
 
 bool HayCartaLevantada(int seat) {
-    for (int p = 1; p <= NumCartas[seat][SerieActual]; ++p) {
-        const auto& c = CartasJugador[seat][SerieActual][p];
-        if (c[CAMPO_PALO] != 0 && c[CAMPO_ESTADO] == 1 &&
-            !(ArrastrandoCarta && p == PosicionOrigen))
+    for (int p = 1; p <= NumCartas[seat][SerieActual]; ++p)
+        if (CartaEnFila(seat, p) && CartasJugador[seat][SerieActual][p][CAMPO_ESTADO] == 1)
             return true;
-    }
     return false;
 }
 
